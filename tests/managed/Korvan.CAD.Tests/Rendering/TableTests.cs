@@ -7,7 +7,9 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.TableStyle;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Tables;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Tests.FileFormats.Cad;
 using Xunit;
 
@@ -123,12 +125,28 @@ public class TableTests
         drawing.Entities.Clear();
         drawing.Entities.Add(table);
         DrawingList block = SceneList.Build(drawing);
+        string extents = ExtentsOf(drawing);
         table.Name = "";
+        Assert.Equal(extents, ExtentsOf(drawing));
         DrawingList cells = SceneList.Build(drawing);
         Assert.Empty(cells.Skipped);
         Assert.Equal(TextsOf(block), TextsOf(cells));
         Assert.Equal(SceneList.Area(block), SceneList.Area(cells), 1e-6);
         SceneList.AssertBox(cells, block.Bounds.MinX, block.Bounds.MinY, block.Bounds.MaxX, block.Bounds.MaxY, 1e-6);
+
+        // Releases without tables have a block of the cells.
+        foreach (DxfOutputVersion target in new[] { DxfOutputVersion.R2000, DxfOutputVersion.R12 })
+        {
+            DrawingList old = SceneList.Build(ReleaseTests.Converted((DxfImage)drawing, target).Image);
+            Assert.Equal(TextsOf(block).Length, TextsOf(old).Length);
+            SceneList.AssertBox(old, block.Bounds.MinX, block.Bounds.MinY, block.Bounds.MaxX, block.Bounds.MaxY, 1e-6);
+        }
+    }
+
+    private static string ExtentsOf(CadImage drawing)
+    {
+        (Cad3DPoint min, Cad3DPoint max) = DrawingExtents.OfModel(drawing.Drawing, null);
+        return FormattableString.Invariant($"{min.X:F6} {min.Y:F6} {max.X:F6} {max.Y:F6}");
     }
 
     private static string[] TextsOf(DrawingList list) =>

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
+using Korvan.CAD.FileFormats.Cad.Model.Tables;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -18,6 +19,8 @@ internal sealed class DrawingExtents : IDisposable
     private readonly Dictionary<string, Extents> _blocks = new(StringComparer.OrdinalIgnoreCase);
     private readonly HashSet<string> _open = new(StringComparer.OrdinalIgnoreCase);
     private DimensionStyles? _dimensions;
+    private TableSources? _tables;
+    private bool _measuresCells = true;
     private int _rotated;
 
     private DrawingExtents(CadDrawing drawing, Func<ITextMeasurer?>? createMeasurer)
@@ -27,6 +30,8 @@ internal sealed class DrawingExtents : IDisposable
     }
 
     private DimensionStyles Dimensions => _dimensions ??= new DimensionStyles(_drawing);
+
+    private TableSources Tables => _tables ??= new TableSources(_drawing);
 
     /// <summary>The corners of model space.</summary>
     /// <param name="drawing">The drawing.</param>
@@ -56,6 +61,17 @@ internal sealed class DrawingExtents : IDisposable
             measure._texts.Finish(extents);
             yield return extents;
         }
+    }
+
+    /// <summary>The box of a block where it is placed once; cells of tables in it that have no block do not count, as
+    /// they may hold the block itself.</summary>
+    internal static Extents OfBlock(CadDrawing drawing, CadBlockEntity block)
+    {
+        Extents extents = new();
+        using var measure = new DrawingExtents(drawing, null) { _measuresCells = false };
+        measure.AddBlock(block.Name, Affine3.Identity, extents);
+        measure._texts.Finish(extents);
+        return extents;
     }
 
     internal static int ToWhole(double from, double to)
@@ -176,6 +192,15 @@ internal sealed class DrawingExtents : IDisposable
             {
                 Affine3 placed = map * Affine3.Translation(-block.BasePoint.ToVec3());
                 owner.AddBlock(table.Name, Extents.Map * placed, Extents);
+            }
+            else if (owner._measuresCells)
+            {
+                Affine3 outer = Extents.Map;
+                Extents.Map = outer * map;
+                List<CadEntityBase> cells = TableGraphics.Create(table, owner.Tables);
+                owner._rotated += owner._open.Count > 0 ? cells.Count : 0;
+                cells.ForEach(entity => EntityGeometry.Emit(entity, this));
+                Extents.Map = outer;
             }
         }
 

@@ -152,12 +152,18 @@ internal sealed partial class PlainEntities : IGeometrySink
         }
     }
 
-    void IGeometrySink.Table(CadTableEntity table, in Affine3 map) => Add(new CadInsertObject
+    void IGeometrySink.Table(CadTableEntity table, in Affine3 map)
     {
-        Name = table.Name,
-        InsertionPoint = ToPoint(map.Origin),
-        RotationAngle = Angles.Degrees(Math.Atan2(map.AxisX.Y, map.AxisX.X)),
-    });
+        if (TableBlocks.HasBlock(_drawing, table))
+        {
+            Add(new CadInsertObject
+            {
+                Name = table.Name,
+                InsertionPoint = ToPoint(map.Origin),
+                RotationAngle = Angles.Degrees(Math.Atan2(map.AxisX.Y, map.AxisX.X)),
+            });
+        }
+    }
 
     void IGeometrySink.MultiLine(CadMultiLine line)
     {

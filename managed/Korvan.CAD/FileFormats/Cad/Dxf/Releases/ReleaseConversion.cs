@@ -13,6 +13,7 @@ internal static class ReleaseConversion
     private const int WithRecords = 1994;
     private const int WithLayouts = 2000;
     private const int WithTrueColors = 2004;
+    private const int WithTables = 2004;
 
     /// <summary>Determines whether the content of a drawing is of another release than the one to be written.</summary>
     internal static bool IsNeeded(CadDrawing drawing, CadAcadVersion target) =>
@@ -41,6 +42,11 @@ internal static class ReleaseConversion
         if (to >= WithLayouts && from < WithLayouts)
         {
             ReleaseUpgrade.Apply(drawing, changes);
+        }
+
+        if (to < WithTables)
+        {
+            TableBlocks.Add(drawing);
         }
 
         if (to < WithTrueColors)

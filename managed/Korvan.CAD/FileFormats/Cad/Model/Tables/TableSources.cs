@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 using Korvan.CAD.FileFormats.Cad.CadObjects.TableStyle;
@@ -39,12 +38,7 @@ internal sealed class TableSources(CadDrawing drawing)
     internal CadBlockEntity? BlockOf(string handle) => _blocks.Value.GetValueOrDefault(handle.TrimStart('0'));
 
     /// <summary>Returns the extents of a block in its own coordinates.</summary>
-    internal Extents ExtentsOf(CadBlockEntity block)
-    {
-        var reference = new CadInsertObject { Name = block.Name };
-        reference.InsertionPoint = block.BasePoint;
-        return DrawingExtents.OfEach(drawing, [reference], null).First();
-    }
+    internal Extents ExtentsOf(CadBlockEntity block) => DrawingExtents.OfBlock(drawing, block);
 
     private CadObjectBase? Find(string handle) => _objects.Value.GetValueOrDefault(handle.TrimStart('0'));
 
