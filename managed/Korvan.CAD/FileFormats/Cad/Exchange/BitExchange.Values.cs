@@ -140,10 +140,10 @@ internal abstract partial class BitExchange
     internal int CountLong(int count) => Verify(BitLong(count));
 
     /// <summary>Carries the number of items that follow (BS).</summary>
-    internal int CountShort(int count) => Verify((ushort)BitShort(count));
+    internal int CountShort(int count) => Verify((ushort)BitShort(Fitting(count, ushort.MaxValue)));
 
     /// <summary>Carries the number of items that follow (RC).</summary>
-    internal int CountByte(int count) => Verify(RawByte(count));
+    internal int CountByte(int count) => Verify(RawByte(Fitting(count, byte.MaxValue)));
 
     /// <summary>Carries bytes after their number (BL).</summary>
     internal byte[] Block(byte[] value) => Bytes(value, CountLong(value.Length));
@@ -224,4 +224,7 @@ internal abstract partial class BitExchange
         double rounded = Math.Round(degrees, 10);
         return Math.Abs(degrees - rounded) < roundingError * Math.Abs(degrees) ? rounded : degrees;
     }
+
+    private int Fitting(int count, int most) =>
+        IsReading || count <= most ? count : throw Fault($"{count} items, where the format has room for {most}");
 }

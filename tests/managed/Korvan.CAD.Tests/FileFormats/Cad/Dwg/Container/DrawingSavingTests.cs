@@ -114,6 +114,7 @@ public class DrawingSavingTests
             (image => image.Entities.Add(new CadText { DefaultValue = text }), "TEXT "),
             (image => image.Header.Set("$MENU", 1, text), "$MENU: a string has 7000"),
             (image => image.Entities.Add(WithXdata(text)), "POINT "),
+            (image => image.Entities.Add(new CadMultiLine { ElementCount = 256 }), "MLINE "),
         ];
         foreach ((Action<DwgImage> change, string cause) in cases)
         {
