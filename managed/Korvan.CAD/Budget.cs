@@ -254,6 +254,7 @@ internal sealed class Budget : IDisposable
         {
             // A call that has failed leaves much, and the collector would keep the pages for the next such call.
             GC.Collect(GC.MaxGeneration, GCCollectionMode.Aggressive);
+            NativeHeap.Trim();
         }
 
         if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled / 2))

@@ -1,6 +1,7 @@
 using System;
 using System.Threading;
 using System.Threading.Tasks;
+using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
@@ -12,6 +13,7 @@ namespace Korvan.CAD;
 internal static class LongCall
 {
     private const int PollInterval = 20; // milliseconds
+    private const int LongestWait = 1000;
 
     /// <summary>Runs work that touches nothing of Python and nothing that others change meanwhile.</summary>
     /// <param name="work">The work.</param>
@@ -56,8 +58,14 @@ internal static class LongCall
                 MappedMemory.TrimAll();
             }
         }
-        catch
+        catch (Exception e)
         {
+            if (e is LimitMemoryException)
+            {
+                // Its memory is not to add up with that of the next call.
+                Task.WaitAny([task], LongestWait);
+            }
+
             task.ContinueWith(done => Discard(done, discard), TaskContinuationOptions.ExecuteSynchronously);
             throw;
         }

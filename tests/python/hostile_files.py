@@ -276,19 +276,32 @@ def insert(name: str, x: float = 0, more: str = "") -> str:
     return f"0\nINSERT\n8\n0\n2\n{name}\n10\n{x}\n20\n0\n{more}"
 
 
-def clipped_inserts(count: int, corners: int) -> bytes:
-    """References to a block that share a clip whose sides cross each other."""
+CLIPPED = "102\n{ACAD_XDICTIONARY\n360\nD1\n102\n}\n"
+
+
+def clip(corners: int) -> str:
+    """The objects of a clip whose sides cross each other."""
     places = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(corners))
     matrix = "40\n1\n40\n0\n40\n0\n40\n0\n40\n0\n40\n1\n40\n0\n40\n0\n40\n0\n40\n0\n40\n1\n40\n0\n"
-    objects = (
+    return (
         "0\nDICTIONARY\n5\nD1\n100\nAcDbDictionary\n3\nACAD_FILTER\n360\nD2\n"
         "0\nDICTIONARY\n5\nD2\n100\nAcDbDictionary\n3\nSPATIAL\n360\nD3\n"
         f"0\nSPATIAL_FILTER\n5\nD3\n100\nAcDbFilter\n100\nAcDbSpatialFilter\n70\n{corners}\n{places}"
         "210\n0\n220\n0\n230\n1\n11\n0\n21\n0\n31\n0\n71\n1\n72\n0\n73\n0\n" + matrix * 2
     )
-    extension = "102\n{ACAD_XDICTIONARY\n360\nD1\n102\n}\n"
+
+
+def clipped_inserts(count: int, corners: int) -> bytes:
+    """References to a block that share a clip."""
     lines = "".join(line(i * 7919 % 1000, i * 31 % 1000, i * 104729 % 1000, 1000) for i in range(200))
-    return drawing(insert("A", more=extension) * count, block("A", lines), objects)
+    return drawing(insert("A", more=CLIPPED) * count, block("A", lines), clip(corners))
+
+
+def nested_clips(depth: int, corners: int) -> bytes:
+    """Blocks that hold each other, each within a clip."""
+    lines = "".join(line(i * 7919 % 1000, i * 31 % 1000, i * 104729 % 1000, 1000) for i in range(50))
+    blocks = "".join(block(f"A{i}", lines + insert(f"A{i + 1}", more=CLIPPED)) for i in range(depth))
+    return drawing(insert("A0"), blocks + block(f"A{depth}", lines), clip(corners))
 
 
 def doubling_blocks(depth: int) -> bytes:

@@ -83,6 +83,7 @@ class Bombs(unittest.TestCase):
             ("edges.cgm", hostile.wide_dashes(9000), ("PngOptions",), NOT_SAVED),
             ("clip.cgm", hostile.clipped_lines(9000, 9000), ("PngOptions",), {"done"}),
             ("clip.dxf", hostile.clipped_inserts(2000, 5000), ("PngOptions",), NOT_SAVED),
+            ("nested.dxf", hostile.nested_clips(40, 400), ("PngOptions", "JpegOptions") * 4, NOT_SAVED),
             ("crossings.dxf", hostile.clipped_inserts(50, 5000), ("PngOptions",), {"done"}),
             ("text.cgm", hostile.giant_text(30_000), pages, {"done"}),
             ("records.cgm", hostile.nested_records(100_000), (), {"ImageLoadException"}),
