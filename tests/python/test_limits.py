@@ -216,18 +216,23 @@ class Interruptions(unittest.TestCase):
         (self.folder / "in.dxf").write_bytes(hostile.drawing(
             "".join(f"0\nCIRCLE\n8\n0\n10\n{i}\n20\n{i % 7}\n40\n{i % 90}\n" for i in range(60_000))
         ))
-        names = ("PngOptions", "PdfOptions", "SvgOptions", "Html5Options", "EmfOptions", "CgmOptions", "TiffOptions")
-        output = run(INTERRUPT + """
+        (self.folder / "in.png").write_bytes(hostile.png(9000, 9000))
+        pixels = ("PngOptions", "TiffOptions", "PsdOptions")
+        for source, names in (
+            ("in.dxf", ("PdfOptions", "SvgOptions", "Html5Options", "EmfOptions", "CgmOptions", "DxfOptions", *pixels)),
+            ("in.png", ("WebPOptions", "Jpeg2000Options", "GifOptions", *pixels)),
+        ):
+            output = run(INTERRUPT + """
 image = cad.Image.load(sys.argv[1])
 for name in sys.argv[3:]:
     options = getattr(imageoptions, name)()
     print(timer(0.03, lambda: image.save(sys.argv[2], options)), end=" ")
     options.timeout = 30
     print(late(lambda: image.save(sys.argv[2], options)), os.path.exists(sys.argv[2]))
-""", str(self.folder / "in.dxf"), str(self.folder / "out"), *names).stdout
-        expected = "KeyboardInterrupt OperationInterruptedException False\n" * len(names)
-        self.assertEqual(output, expected)
-        self.assertEqual([path.name for path in self.folder.iterdir()], ["in.dxf"])
+""", str(self.folder / source), str(self.folder / "out"), *names).stdout
+            with self.subTest(source):
+                self.assertEqual(output, "KeyboardInterrupt OperationInterruptedException False\n" * len(names))
+        self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["in.dxf", "in.png"])
 
     def test_the_timeout_ends_long_work_on_one_entity(self) -> None:
         vertices = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(60_000))

@@ -45,7 +45,6 @@ internal static class OptionRules
         new(nameof(ImageOptionsBase.RenderToGraphicsBound), Drawn, static o => o.RenderToGraphicsBound),
         new(nameof(ImageOptionsBase.Pc3File), None, static o => !string.IsNullOrEmpty(o.Pc3File),
             "plotter configurations are not supported; set sizes and pens in vector_rasterization_options"),
-        new(nameof(ImageOptionsBase.Timeout), Colored, static o => o.Timeout != 0),
         new(nameof(ImageOptionsBase.UserWatermarkText), Drawn, static o => o.UserWatermarkText.Length > 0),
         new(nameof(ImageOptionsBase.UserWatermarkColor), Drawn,
             static o => o.UserWatermarkColor != ImageOptionsBase.DefaultWatermarkColor),

@@ -3,6 +3,7 @@ using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using System.Runtime.InteropServices;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Psd;
@@ -50,19 +51,29 @@ internal static class PsdWriter
 
         int[] palette = options.ColorMode == ColorModes.Indexed
             ? PaletteChoice.For(pixels, options.Palette, 256, ColorQuantizationMethod.MedianCut) : [];
-        List<byte[]> planes = Planes(pixels, options.ColorMode, alpha, palette);
-        WriteHeader(output, pixels, planes.Count, options.ColorMode);
+        PlaneRow[] planes = Planes(pixels, options.ColorMode, alpha, palette);
+        WriteHeader(output, pixels, planes.Length, options.ColorMode);
         WritePalette(output, palette);
         WriteResources(output, page, options);
         Number(output, 0); // no layers
-        WritePlanes(output, planes, pixels.Width, options.CompressionMethod);
+        if (options.CompressionMethod == CompressionMethod.Raw)
+        {
+            WriteRows(output, planes, pixels);
+        }
+        else
+        {
+            WritePackedRows(output, planes, pixels);
+        }
     }
 
-    private static List<byte[]> Planes(PixelGrid pixels, ColorModes mode, bool alpha, int[] palette)
+    /// <summary>Fills a row of a plane.</summary>
+    private delegate void PlaneRow(int y, Span<byte> row);
+
+    private static PlaneRow[] Planes(PixelGrid pixels, ColorModes mode, bool alpha, int[] palette)
     {
         return mode switch
         {
-            ColorModes.Indexed => [IndexedPixels.Of(pixels, palette, DitheringMethods.None)],
+            ColorModes.Indexed => [Indices(IndexedPixels.Of(pixels, palette, DitheringMethods.None), pixels.Width)],
             ColorModes.Grayscale => [Plane(pixels, static p => PixelGrid.Luma(p))],
 
             // Inks are stored inverted.
@@ -73,31 +84,39 @@ internal static class PsdWriter
                 Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y),
                 Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
             ],
+            _ when !alpha => [Channel(pixels, 16), Channel(pixels, 8), Channel(pixels, 0)],
             _ =>
             [
                 Plane(pixels, static p => OnMatte(p, 16)),
                 Plane(pixels, static p => OnMatte(p, 8)),
                 Plane(pixels, static p => OnMatte(p, 0)),
-                .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
+                Channel(pixels, 24),
             ],
         };
     }
 
     private static int OnMatte(int pixel, int shift) => PsdMatte.Blend((pixel >> shift) & 255, pixel >>> 24);
 
-    private static byte[] Plane(PixelGrid pixels, Func<int, int> sample)
-    {
-        var plane = new byte[pixels.Count];
-        for (int y = 0, at = 0; y < pixels.Height; y++)
-        {
-            foreach (int pixel in pixels.Row(y))
-            {
-                plane[at++] = (byte)sample(pixel);
-            }
-        }
+    private static PlaneRow Indices(byte[] indices, int width) =>
+        (y, row) => indices.AsSpan(y * width, width).CopyTo(row);
 
-        return plane;
-    }
+    private static PlaneRow Channel(PixelGrid pixels, int shift) => (y, row) =>
+    {
+        ReadOnlySpan<int> from = pixels.Row(y);
+        for (int x = 0; x < row.Length; x++)
+        {
+            row[x] = (byte)(from[x] >> shift);
+        }
+    };
+
+    private static PlaneRow Plane(PixelGrid pixels, Func<int, int> sample) => (y, row) =>
+    {
+        ReadOnlySpan<int> from = pixels.Row(y);
+        for (int x = 0; x < row.Length; x++)
+        {
+            row[x] = (byte)sample(from[x]);
+        }
+    };
 
     private static void WriteHeader(Stream output, PixelGrid pixels, int channels, ColorModes mode)
     {
@@ -158,28 +177,47 @@ internal static class PsdWriter
         return data;
     }
 
-    private static void WritePlanes(Stream output, List<byte[]> planes, int width, CompressionMethod method)
+    private static void WriteRows(Stream output, PlaneRow[] planes, PixelGrid pixels)
     {
-        Short(output, (int)method);
-        if (method == CompressionMethod.Raw)
+        Short(output, (int)CompressionMethod.Raw);
+        byte[] row = new byte[pixels.Width];
+        foreach (PlaneRow plane in planes)
         {
-            planes.ForEach(plane => output.Write(plane));
-            return;
-        }
-
-        // The lengths of all packed rows precede the rows.
-        List<byte> packed = [];
-        foreach (byte[] plane in planes)
-        {
-            for (int start = 0; start < plane.Length; start += width)
+            for (int y = 0; y < pixels.Height; y++)
             {
-                int before = packed.Count;
-                PackBits.Pack(plane.AsSpan(start, width), packed);
-                Short(output, packed.Count - before);
+                plane(y, row);
+                output.Write(row);
             }
         }
+    }
 
-        output.Write(System.Runtime.InteropServices.CollectionsMarshal.AsSpan(packed));
+    // The lengths of all packed rows precede the rows. To pack them twice takes less than to keep them.
+    private static void WritePackedRows(Stream output, PlaneRow[] planes, PixelGrid pixels)
+    {
+        Short(output, (int)CompressionMethod.Rle);
+        byte[] row = new byte[pixels.Width];
+        List<byte> packed = [];
+        foreach (bool isLength in (ReadOnlySpan<bool>)[true, false])
+        {
+            foreach (PlaneRow plane in planes)
+            {
+                for (int y = 0; y < pixels.Height; y++)
+                {
+                    Budget.Check();
+                    plane(y, row);
+                    packed.Clear();
+                    PackBits.Pack(row, packed);
+                    if (isLength)
+                    {
+                        Short(output, packed.Count);
+                    }
+                    else
+                    {
+                        output.Write(CollectionsMarshal.AsSpan(packed));
+                    }
+                }
+            }
+        }
     }
 
     private static void Short(Stream output, int value)

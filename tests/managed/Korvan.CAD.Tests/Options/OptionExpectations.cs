@@ -95,7 +95,7 @@ internal static class OptionExpectations
     private static readonly (string Source, string Type, string Path, string Value, string Reason)[] Same =
     [
         (Any, Any, "Source", Any, "a copy is written to a second destination"),
-        (Lines, Any, "Timeout", Any, "the time is enough"),
+        (Any, Any, "Timeout", Any, "the time is enough"),
         (Lines, OnePage, Vector + "AutomaticLayoutsScaling", Any, "a page alone shares its scale with no other"),
         (Lines, Pixels, Vector + "ContentAsBitmap", Any, "raster output is a bitmap already"),
         (Lines, Pixels, Vector + "EmbedBackground", Any, "pixels always have the background"),

@@ -39,8 +39,18 @@ internal static class DrawingIntegrity
             layouts = AddLayoutDictionary(drawing);
         }
 
-        CompleteSequences(drawing);
-        HandleAllocator.Assign(drawing, release >= WithRecords);
+        try
+        {
+            CompleteSequences(drawing);
+            HandleAllocator.Assign(drawing, release >= WithRecords);
+        }
+        catch (Exception) when (layouts is not null)
+        {
+            // The call is interrupted: nothing leads to the dictionary yet.
+            drawing.Objects.Remove(layouts);
+            throw;
+        }
+
         if (release >= WithOwners)
         {
             LinkDictionary(drawing, layouts);

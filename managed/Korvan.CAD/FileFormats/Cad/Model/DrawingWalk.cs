@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>Ways through a drawing.</summary>
+/// <summary>Ways through a drawing, which the time limit of a call may end.</summary>
 internal static class DrawingWalk
 {
     /// <summary>Gives the entities of all blocks, model and paper space among them, without their parts.</summary>
@@ -15,6 +15,7 @@ internal static class DrawingWalk
         {
             foreach (CadEntityBase entity in block.Entities)
             {
+                Budget.Check();
                 yield return entity;
             }
         }
@@ -42,6 +43,7 @@ internal static class DrawingWalk
             yield return block.End;
             foreach (CadEntityBase entity in block.Entities)
             {
+                Budget.Check();
                 yield return entity;
                 foreach (CadBaseObject part in Parts(entity))
                 {
@@ -52,6 +54,7 @@ internal static class DrawingWalk
 
         foreach (CadObjectBase item in drawing.Objects)
         {
+            Budget.Check();
             yield return item;
         }
     }
