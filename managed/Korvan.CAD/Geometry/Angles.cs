@@ -16,4 +16,19 @@ internal static class Angles
         double sweep = Math.IEEERemainder(end - start, Math.Tau);
         return sweep <= SmallestSweep ? sweep + Math.Tau : sweep;
     }
+
+    /// <summary>The parameter of an ellipse at which its point lies in a direction from the centre: tan t = tan a / r,
+    /// in the same quadrant and turn.</summary>
+    /// <param name="angle">The direction in radians, measured from the major axis.</param>
+    /// <param name="ratio">The length of the minor axis as part of the major axis.</param>
+    internal static double EllipseParameter(double angle, double ratio)
+    {
+        if (!(ratio > 0))
+        {
+            return angle;
+        }
+
+        (double sin, double cos) = Math.SinCos(angle);
+        return angle + Math.IEEERemainder(Math.Atan2(sin / ratio, cos) - angle, Math.Tau);
+    }
 }

@@ -54,9 +54,14 @@ internal static partial class EntityGeometry
             case CadBoundaryPathCircularEllipse ellipse:
                 Vec3 major = ToVec3(ellipse.MajorEndPoint);
                 Vec3 minor = Vec3.Cross(Vec3.UnitZ, major) * ellipse.AxisRatio;
-                (double from, double by) = EdgeSweep(ellipse.StartAngle, ellipse.EndAngle, ellipse.CounterClockwise);
+                (double first, double by) = EdgeSweep(ellipse.StartAngle, ellipse.EndAngle, ellipse.CounterClockwise);
+
+                // Unlike those of the entity, these angles are directions.
+                double from = Angles.EllipseParameter(first, ellipse.AxisRatio);
+                double to = Angles.EllipseParameter(first + by, ellipse.AxisRatio);
                 sink.EllipticArc(new EllipticArc(
-                    plane.Point(ToVec3(ellipse.CenterPoint)), plane.Vector(major), plane.Vector(minor), from, by));
+                    plane.Point(ToVec3(ellipse.CenterPoint)), plane.Vector(major), plane.Vector(minor), from,
+                    to - from));
                 break;
             case CadBoundaryPathSpline spline:
                 sink.Spline(SplineOf(spline, plane));

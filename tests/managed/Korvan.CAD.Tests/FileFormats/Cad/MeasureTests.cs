@@ -80,6 +80,9 @@ public class MeasureTests
         { "a clockwise one", new CadBoundaryPathCircularEllipse
             { MajorEndPoint = new(4, 0), AxisRatio = 0.5, StartAngle = 90, EndAngle = 180, CounterClockwise = false },
             [0, -2, -4, 0, -4 * Math.Sqrt(0.5), -2 * Math.Sqrt(0.5)] },
+        { "one between directions", new CadBoundaryPathCircularEllipse
+            { MajorEndPoint = new(4, 0), AxisRatio = 0.5, StartAngle = 45, EndAngle = 135, CounterClockwise = true },
+            [Math.Sqrt(3.2), Math.Sqrt(3.2), -Math.Sqrt(3.2), Math.Sqrt(3.2), 0, 2] },
         { "a spline", SplineEdge(rational: false), [0, 0, 4, 0, 2, 1] },
         { "a rational spline", SplineEdge(rational: true), [0, 0, 4, 0, 2, 1.5] },
     };

@@ -23,12 +23,12 @@ public class CadBoundaryPathCircularEllipse : ICadBoundaryPathEntity
     /// <summary>Gets or sets the length of the minor axis as part of the major axis. Group code 40.</summary>
     public double AxisRatio { get; set; } = 1;
 
-    /// <summary>Gets or sets the start angle, in degrees; measured clockwise where the arc runs clockwise. Group code
-    /// 50.</summary>
+    /// <summary>Gets or sets the start angle, in degrees: the direction from the centre, measured from the major axis,
+    /// clockwise where the arc runs clockwise. Group code 50.</summary>
     public double StartAngle { get; set; }
 
-    /// <summary>Gets or sets the end angle, in degrees; measured clockwise where the arc runs clockwise. Group code
-    /// 51.</summary>
+    /// <summary>Gets or sets the end angle, in degrees: the direction from the centre, measured from the major axis,
+    /// clockwise where the arc runs clockwise. Group code 51.</summary>
     public double EndAngle { get; set; } = 360;
 
     /// <summary>Gets or sets whether the arc runs counterclockwise. Group code 73.</summary>
