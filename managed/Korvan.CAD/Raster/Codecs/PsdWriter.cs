@@ -56,18 +56,13 @@ internal static class PsdWriter
         WritePalette(output, palette);
         WriteResources(output, page, options);
         Number(output, 0); // no layers
-        if (options.CompressionMethod == CompressionMethod.Raw)
-        {
-            WriteRows(output, planes, pixels);
-        }
-        else
-        {
-            WritePackedRows(output, planes, pixels);
-        }
+        WritePlanes(output, planes, pixels, options.CompressionMethod);
     }
 
     /// <summary>Fills a row of a plane.</summary>
     private delegate void PlaneRow(int y, Span<byte> row);
+
+    private delegate void RowAction(ReadOnlySpan<byte> row);
 
     private static PlaneRow[] Planes(PixelGrid pixels, ColorModes mode, bool alpha, int[] palette)
     {
@@ -100,6 +95,7 @@ internal static class PsdWriter
     private static PlaneRow Indices(byte[] indices, int width) =>
         (y, row) => indices.AsSpan(y * width, width).CopyTo(row);
 
+    // Most images have no other planes, which a call for each pixel would make slow.
     private static PlaneRow Channel(PixelGrid pixels, int shift) => (y, row) =>
     {
         ReadOnlySpan<int> from = pixels.Row(y);
@@ -177,45 +173,45 @@ internal static class PsdWriter
         return data;
     }
 
-    private static void WriteRows(Stream output, PlaneRow[] planes, PixelGrid pixels)
+    private static void WritePlanes(Stream output, PlaneRow[] planes, PixelGrid pixels, CompressionMethod method)
     {
-        Short(output, (int)CompressionMethod.Raw);
+        Short(output, (int)method);
+        if (method == CompressionMethod.Raw)
+        {
+            ForEachRow(planes, pixels, output.Write);
+            return;
+        }
+
+        // The lengths of all packed rows precede the rows. To pack them twice takes less than to keep them.
+        List<byte> packed = [];
+        ForEachRow(planes, pixels, row =>
+        {
+            Pack(row, packed);
+            Short(output, packed.Count);
+        });
+        ForEachRow(planes, pixels, row =>
+        {
+            Pack(row, packed);
+            output.Write(CollectionsMarshal.AsSpan(packed));
+        });
+    }
+
+    private static void Pack(ReadOnlySpan<byte> row, List<byte> packed)
+    {
+        packed.Clear();
+        PackBits.Pack(row, packed);
+    }
+
+    private static void ForEachRow(PlaneRow[] planes, PixelGrid pixels, RowAction take)
+    {
         byte[] row = new byte[pixels.Width];
         foreach (PlaneRow plane in planes)
         {
             for (int y = 0; y < pixels.Height; y++)
             {
+                Budget.Check();
                 plane(y, row);
-                output.Write(row);
-            }
-        }
-    }
-
-    // The lengths of all packed rows precede the rows. To pack them twice takes less than to keep them.
-    private static void WritePackedRows(Stream output, PlaneRow[] planes, PixelGrid pixels)
-    {
-        Short(output, (int)CompressionMethod.Rle);
-        byte[] row = new byte[pixels.Width];
-        List<byte> packed = [];
-        foreach (bool isLength in (ReadOnlySpan<bool>)[true, false])
-        {
-            foreach (PlaneRow plane in planes)
-            {
-                for (int y = 0; y < pixels.Height; y++)
-                {
-                    Budget.Check();
-                    plane(y, row);
-                    packed.Clear();
-                    PackBits.Pack(row, packed);
-                    if (isLength)
-                    {
-                        Short(output, packed.Count);
-                    }
-                    else
-                    {
-                        output.Write(CollectionsMarshal.AsSpan(packed));
-                    }
-                }
+                take(row);
             }
         }
     }
