@@ -116,7 +116,7 @@ public partial class CadSpline : CadEntityBase
         if (fields.HasWholeSplines && ControlPoints.Count == 0 && Degree == FitDegree)
         {
             (knotValues, List<Vec3> derived) = DeriveControlPoints();
-            points = derived.ConvertAll(static point => new Cad3DPoint(point.X, point.Y, point.Z));
+            points = derived.ConvertAll(ModelVectors.ToPoint);
         }
 
         int knots = fields.Count(72, knotValues.Count);
@@ -202,7 +202,7 @@ public partial class CadSpline : CadEntityBase
         (List<double> knots, List<Vec3> points) = DeriveControlPoints();
         CadSpline spline = new() { Flag = Flag, Degree = FitDegree };
         spline.KnotValues.AddRange(knots);
-        points.ForEach(point => spline.ControlPoints.Add(new Cad3DPoint(point.X, point.Y, point.Z)));
+        points.ForEach(point => spline.ControlPoints.Add(point.ToPoint()));
         return spline;
     }
 

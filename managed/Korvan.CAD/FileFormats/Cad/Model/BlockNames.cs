@@ -2,11 +2,15 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>Names of the blocks that hold model and paper space.</summary>
+/// <summary>Names of the blocks that hold model and paper space, and the flag of those whose name means
+/// nothing.</summary>
 internal static class BlockNames
 {
     internal const string ModelSpace = "*Model_Space";
     internal const string PaperSpace = "*Paper_Space";
+
+    /// <summary>The flag of blocks whose name a program made.</summary>
+    internal const short Anonymous = 1;
 
     internal static bool IsModelSpace(string name)
     {

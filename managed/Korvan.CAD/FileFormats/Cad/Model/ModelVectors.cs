@@ -8,6 +8,8 @@ internal static class ModelVectors
 {
     internal static Vec3 ToVec3(this Cad3DPoint point) => new(point.X, point.Y, point.Z);
 
+    internal static Cad3DPoint ToPoint(this Vec3 point) => new(point.X, point.Y, point.Z);
+
     internal static Vec2 ToVec2(this Cad2DPoint point) => new(point.X, point.Y);
 
     /// <summary>The map from the object coordinates of a normal to world coordinates.</summary>

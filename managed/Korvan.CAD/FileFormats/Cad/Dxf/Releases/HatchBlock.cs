@@ -12,7 +12,6 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 /// filled triangles.</summary>
 internal static class HatchBlock
 {
-    private const short Anonymous = 1;
     private const int MaxLines = 100_000;
 
     /// <summary>Makes the block of a hatch; nothing for one without area or with too many lines.</summary>
@@ -24,7 +23,7 @@ internal static class HatchBlock
         List<HatchLoop> loops = HatchLoops.Select(
             HatchAreas.Loops(hatch), (HatchStyle)Math.Clamp((int)hatch.HatchStyle, 0, 2));
         List<Vec2[]> rings = loops.ConvertAll(static loop => loop.Ring);
-        CadBlockEntity block = new() { Flags = Anonymous };
+        CadBlockEntity block = new() { Flags = BlockNames.Anonymous };
         if (hatch.SolidFillFlag != 0 || hatch.IsGradient != 0)
         {
             AddTriangles(hatch, rings, block);

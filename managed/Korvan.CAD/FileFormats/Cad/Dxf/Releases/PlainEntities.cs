@@ -18,6 +18,7 @@ internal sealed partial class PlainEntities : IGeometrySink
 
     private readonly CadDrawing _drawing;
     private readonly PlainTexts _texts;
+    private readonly FreeBlockNames _names;
     private readonly Func<CadText, double> _measure;
     private readonly int _release;
     private readonly Lazy<(Vec3 Center, double Size)> _extents;
@@ -34,6 +35,7 @@ internal sealed partial class PlainEntities : IGeometrySink
         _release = release;
         _measure = measure;
         _texts = new PlainTexts(drawing, measure);
+        _names = new FreeBlockNames(drawing, "*X");
         _extents = new Lazy<(Vec3, double)>(Extents);
     }
 
@@ -193,7 +195,7 @@ internal sealed partial class PlainEntities : IGeometrySink
             return;
         }
 
-        block.Name = block.NameAgain = FreeName("*X");
+        block.Name = block.NameAgain = _names.Next();
         Blocks.Add(block);
         Add(new CadInsertObject { Name = block.Name });
     }
@@ -327,18 +329,6 @@ internal sealed partial class PlainEntities : IGeometrySink
         made.LayoutTabName = source.LayoutTabName;
     }
 
-    private string FreeName(string prefix)
-    {
-        int number = Blocks.Count + 1;
-        while (_drawing.BlockEntities.Contains($"{prefix}{number}")
-            || Blocks.Exists(block => block.Name == $"{prefix}{number}"))
-        {
-            number++;
-        }
-
-        return $"{prefix}{number}";
-    }
-
     private (Vec3 Center, double Size) Extents()
     {
         (Cad3DPoint min, Cad3DPoint max) = DrawingExtents.OfModel(_drawing, null);
@@ -346,5 +336,5 @@ internal sealed partial class PlainEntities : IGeometrySink
         return ((min.ToVec3() + max.ToVec3()) * 0.5, Math.Max(size.Length, 1));
     }
 
-    private static Cad3DPoint ToPoint(Vec3 v) => new(v.X, v.Y, v.Z);
+    private static Cad3DPoint ToPoint(Vec3 v) => v.ToPoint();
 }

@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using System.Globalization;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
@@ -12,13 +11,10 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 /// <summary>Gives tables that have no block the one of their cells: releases without tables show the block.</summary>
 internal static class TableBlocks
 {
-    private const short Anonymous = 1;
-    private const string Prefix = "*T";
-
     internal static void Add(CadDrawing drawing)
     {
         var sources = new TableSources(drawing);
-        int number = 0;
+        var names = new FreeBlockNames(drawing, "*T");
         List<CadTableEntity> tables =
             [.. DrawingWalk.Entities(drawing).OfType<CadTableEntity>().Where(table => !HasBlock(drawing, table))];
         foreach (CadTableEntity table in tables)
@@ -28,8 +24,8 @@ internal static class TableBlocks
                 continue;
             }
 
-            table.Name = FreeName(drawing, ref number);
-            var block = new CadBlockEntity { Name = table.Name, NameAgain = table.Name, Flags = Anonymous };
+            table.Name = names.Next();
+            var block = new CadBlockEntity { Name = table.Name, NameAgain = table.Name, Flags = BlockNames.Anonymous };
             entities.ForEach(block.Entities.Add);
             drawing.BlockEntities.Add(block);
             drawing.BlockRecords.Add(new CadBlockTableObject { Name = block.Name });
@@ -39,16 +35,4 @@ internal static class TableBlocks
     /// <summary>Whether a table has a block.</summary>
     internal static bool HasBlock(CadDrawing drawing, CadTableEntity table) =>
         table.Name.Length > 0 && drawing.BlockEntities.Contains(table.Name);
-
-    private static string FreeName(CadDrawing drawing, ref int number)
-    {
-        string name;
-        do
-        {
-            number++;
-            name = string.Create(CultureInfo.InvariantCulture, $"{Prefix}{number}");
-        }
-        while (drawing.BlockEntities.Contains(name));
-        return name;
-    }
 }
