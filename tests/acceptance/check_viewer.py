@@ -22,8 +22,12 @@ RESULTS = ROOT / "build" / "acceptance"
 PYTHON = ROOT / "build" / "python"
 ENTITIES = 50_000
 SMOOTH = 58.0  # frames of a second
+FRAME_WORK = 8.0  # milliseconds, of the 16.7 of a frame; images that are moved take 0.2, a layout that is drawn 500
 VIEWER = "document.documentElement.korvanViewer"
 SHARP = f"{VIEWER}?.camera.isSharp"
+ROAD = (0x96, 0x96, 0x9B)
+CLICK_ROAD = ("[...document.querySelectorAll('#layers li')].find((item) => item.textContent === 'ROAD')"
+              ".querySelector('input').click()")
 MARKUP = "</script><script>window.owned=1</script><img src=x onerror=window.owned=1>&amp;"
 # Moves the camera in every frame, and tells the frames of a second, the longest one, and the work of a frame.
 FRAMES = """
@@ -135,6 +139,11 @@ def inner_text(browser: Browser, name: str) -> str:
     return found
 
 
+def expect_text(browser: Browser, name: str, wanted: str) -> None:
+    """Waits for a text, as some wait for an answer of the worker."""
+    browser.wait_for(f"document.getElementById('{name}').textContent === '{wanted}'", f"{wanted!r} as {name}", 10)
+
+
 def expect(is_right: bool, what: str) -> None:
     if not is_right:
         raise AssertionError(what)
@@ -143,21 +152,17 @@ def expect(is_right: bool, what: str) -> None:
 def check_layers_and_layouts(browser: Browser, folder: Path) -> None:
     open_page(browser, write_page(DRAWINGS / "site_plan.dxf", folder))
     browser.screenshot(RESULTS / "viewer-light.png")
-    road = (0x96, 0x96, 0x9B)
-    before = count(browser, road)
+    before = count(browser, ROAD)
     expect(before > 3000, f"{before} pixels of the road")
-    browser.run(
-        "[...document.querySelectorAll('#layers li')].find((item) => item.textContent === 'ROAD')"
-        ".querySelector('input').click()"
-    )
+    browser.run(CLICK_ROAD)
     settle(browser)
-    expect(count(browser, road) < before / 10, "the road is drawn though its layer is off")
+    expect(count(browser, ROAD) < before / 10, "the road is drawn though its layer is off")
     browser.click("#own-layers")
     settle(browser)
-    expect(abs(count(browser, road) - before) < before / 10, "the layers are not as stored")
+    expect(abs(count(browser, ROAD) - before) < before / 10, "the layers are not as stored")
     browser.click("#tabs button:nth-child(2)")
     settle(browser)
-    expect(inner_text(browser, "message") == "", inner_text(browser, "message"))
+    expect_text(browser, "message", "")
     expect(browser.run(f"return {VIEWER}.camera.page.unit") == "mm", "the unit of the sheet")
     browser.screenshot(RESULTS / "viewer-layout.png")
     # The scale bar of 40 m, through the viewport of 1:500: its ends lie 80 mm apart on the paper.
@@ -173,13 +178,27 @@ def check_layers_and_layouts(browser: Browser, folder: Path) -> None:
     expect(abs(found - 40) < 0.5, inner_text(browser, "reading"))
 
 
+def check_fast_switching(browser: Browser, folder: Path) -> None:
+    """What is pressed while a layout is read: the last layout is shown, and as the switches say by then."""
+    open_page(browser, write_page(DRAWINGS / "site_plan.dxf", folder))
+    browser.run(f"const viewer = {VIEWER}; for (const i of [1, 0, 1]) viewer.tabs.select(i); {CLICK_ROAD}; "
+                "viewer.measure.start('area')")
+    expect(not browser.run(f"return {SHARP}"), "the image of another layout counts as this one's")
+    settle(browser)
+    expect(browser.run(f"return [{VIEWER}.camera.page.unit, {VIEWER}.measure.mode]") == ["mm", None], "another layout")
+    without = count(browser, ROAD)
+    browser.click("#own-layers")
+    settle(browser)
+    expect(count(browser, ROAD) > 10 * without, f"{without} pixels of the road while its layer is off")
+
+
 def check_search_and_theme(browser: Browser, folder: Path) -> None:
     open_page(browser, write_page(DRAWINGS / "site_plan.dxf", folder))
     browser.press("/", *"plot 3")  # a paragraph, which is drawn word by word
-    expect(inner_text(browser, "matches") == "1 match", inner_text(browser, "matches"))
+    expect_text(browser, "matches", "1 match")
     browser.press("\ue00c", "/", *"mill", "\ue007")
     settle(browser)
-    expect(inner_text(browser, "matches") == "1 of 2 matches", inner_text(browser, "matches"))
+    expect_text(browser, "matches", "1 of 2 matches")
     highlighted = browser.run(
         "const c = document.getElementById('overlay'); const d = c.getContext('2d')"
         ".getImageData(0, 0, c.width, c.height).data; return d.some((value) => value > 0)"
@@ -241,7 +260,7 @@ def check_blocks(browser: Browser, folder: Path) -> None:
     whole = count(browser, red)
     expect(whole > 5000, f"{whole} pixels of blocks")
     browser.press("/", *"star")
-    expect(inner_text(browser, "matches") == "60 matches", inner_text(browser, "matches"))
+    expect_text(browser, "matches", "60 matches")
     browser.press("\ue00c")
     # The third block of the first row is turned by 180 degrees: its longest line ends at the left.
     browser.run(f"const {{ camera }} = {VIEWER}; const [a, b, c, d, e, f] = camera.page.matrix; "
@@ -260,6 +279,7 @@ def check_picking(browser: Browser, folder: Path) -> None:
     source = folder / "picked.dxf"
     source.write_text(dxf(entities, ["A", "R"], [*line("PART", 1, 0, 0, 20, 30), *text("PART", 0, 32, 4, "Pump")]))
     open_page(browser, write_page(source, folder))
+    browser.wait_for(f"{VIEWER}.picker._table !== null", "what is known of the entities")
     entity = "document.getElementById('entity').textContent"
     for (x, y), wanted in (((45, 40), "TypeCIRCLEHandle2FLayerR"), ((160, 15), "TypeINSERTBlockBHandle3BLayerA"),
                            ((25, 20), "TypeLINE")):
@@ -287,16 +307,20 @@ def check_hostile_names(browser: Browser, folder: Path) -> None:
     browser.run("document.title = 'x'; const script = document.createElement('script'); script.textContent = "
                 "'window.owned = 1'; document.body.append(script)")
     expect(browser.run("return window.owned === undefined"), "the policy lets other scripts run")
-    expect(any("Content Security Policy" in message for message in browser.console()), "no report of the policy")
+    browser.wait_for(lambda: any("Content Security Policy" in message for message in browser.console()),
+                     "a report of the policy", 10)
 
 
 def check_pages_of_other_kinds(browser: Browser, folder: Path) -> None:
     """A metafile, and a page that has been sent: no connection is tried, and nothing is said on the console."""
+    browser.open("about:blank")
+    time.sleep(0.5)  # messages of the page before may come late
     browser.console()
     browser.requests()
     for source in (DRAWINGS / "gate_valve.cgm", ROOT / "docs" / "images" / "site_plan.png"):
         open_page(browser, write_page(source, folder))
-    expect(browser.console() == [], "messages on the console")
+    messages = browser.console()
+    expect(messages == [], f"messages on the console: {messages}")
     others = [url for url in browser.requests() if not url.startswith(("file:", "blob:", "data:"))]
     expect(others == [], f"connections: {others}")
 
@@ -322,10 +346,10 @@ def check_speed(browser: Browser, folder: Path) -> None:
             if best[0] >= SMOOTH:
                 break
         results[name] = [round(value, 1) for value in best]
-        if best[0] < SMOOTH and os.getloadavg()[0] > 2 * (os.cpu_count() or 1):
-            print(f"{name}: {best[0]:.1f} frames a second, not judged: the machine is busy with other work")
-            continue
-        expect(best[0] >= SMOOTH, f"{name}: {best[0]:.1f} frames a second")
+        # Frames are lost to other work of the machine as well; the work of a frame tells whose fault it is.
+        if best[0] < SMOOTH:
+            print(f"{name}: {best[0]:.1f} frames a second, with {best[2]:.1f} ms of work in each")
+        expect(best[2] < FRAME_WORK, f"{name}: {best[2]:.1f} ms of work in a frame")
     settle(browser)
     (RESULTS / "viewer-speed.json").write_text(json.dumps(results, indent=1) + "\n")
     print(json.dumps(results))
@@ -333,6 +357,7 @@ def check_speed(browser: Browser, folder: Path) -> None:
 
 CHECKS = (
     check_layers_and_layouts,
+    check_fast_switching,
     check_search_and_theme,
     check_measuring,
     check_blocks,
@@ -346,7 +371,7 @@ CHECKS = (
 def main() -> int:
     require("chromium", "chromedriver")
     RESULTS.mkdir(parents=True, exist_ok=True)
-    failed = 0
+    failures: list[str] = []
     with tempfile.TemporaryDirectory() as folder, Browser() as browser:
         for check in CHECKS:
             name = check.__name__.removeprefix("check_").replace("_", " ")
@@ -354,9 +379,11 @@ def main() -> int:
                 check(browser, Path(folder))
                 print(f"{name}: right", flush=True)
             except (AssertionError, OSError, RuntimeError, subprocess.CalledProcessError) as error:
-                failed += 1
-                print(f"{name}: {error}", flush=True)
-    return int(failed > 0)
+                failures.append(f"{name}: {error}")
+                print(failures[-1], flush=True)
+    if failures:
+        print("; ".join(failures))
+    return int(bool(failures))
 
 
 if __name__ == "__main__":

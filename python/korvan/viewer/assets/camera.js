@@ -28,6 +28,12 @@ class Camera {
     this.resize();
   }
 
+  /** Shows nothing new until another layout has been read. */
+  close() {
+    this.view = this._pending = null;
+    this.isSharp = false;
+  }
+
   /** Shows another layout: its size, and the bounds of what is visible in it. */
   open(page, bounds) {
     this.page = page;

@@ -6,6 +6,8 @@ const INTERIM = 250;  // milliseconds between unfinished images of a slow view
 let painter = null;
 let last = null;  // the last image of a view that is whole
 let newest = 0;
+let current = null;  // settings
+let opened = 0;  // counts layouts, as one may be asked for while another is read
 const channel = new MessageChannel();
 let resume = null;
 channel.port1.onmessage = () => resume();
@@ -44,21 +46,35 @@ async function imageScene(bytes) {
   return [scene, [bitmap]];
 }
 
-async function open({ bytes, isImage, isPlotted, settings }) {
-  let scene, images;
+async function readLayout(bytes, isImage) {
   if (isImage) {
-    [scene, images] = await imageScene(bytes);
-  } else {
-    scene = new SceneReader().read(await inflate(bytes));
-    images = await Promise.all(scene.images.map((image) => decodeImage(image.url)));
+    return imageScene(bytes);
+  }
+  const scene = new SceneReader().read(await inflate(bytes));
+  return [scene, await Promise.all(scene.images.map((image) => decodeImage(image.url)))];
+}
+
+async function open({ index, bytes, isImage, isPlotted, settings }) {
+  const turn = ++opened;
+  current = settings;
+  let scene, images;
+  try {
+    [scene, images] = await readLayout(bytes, isImage);
+  } catch (error) {
+    if (turn === opened) {
+      throw error;
+    }
+  }
+  if (turn !== opened) {
+    return;
   }
   painter = new Painter(scene, images);
   painter.plotted = isPlotted;
-  apply(settings);
+  apply(current);
   const { width, height, matrix, texts } = scene;
   const layers = scene.layers.map((name, i) => ({
     name, light: painter.colorOfLayer(i, false), dark: painter.colorOfLayer(i, true) }));
-  postMessage({ type: "opened", width, height, matrix, layers, texts, bounds: painter.visibleBounds(),
+  postMessage({ type: "opened", index, width, height, matrix, layers, texts, bounds: painter.visibleBounds(),
     count: scene.items.length });
 }
 
@@ -131,8 +147,11 @@ const HANDLERS = {
   open,
   draw,
   settings({ settings }) {
-    apply(settings);
-    postMessage({ type: "bounds", bounds: painter.visibleBounds() });
+    current = settings;
+    if (painter !== null) {
+      apply(settings);
+      postMessage({ type: "bounds", bounds: painter.visibleBounds() });
+    }
   },
   pick({ id, x, y, distance }) {
     const layers = [...painter.layersAt(x, y, distance)].map((layer) => painter.scene.layers[layer] ?? "");

@@ -67,18 +67,21 @@ class Viewer {
     this.picker.open(null);
     $$("message").textContent = layout.message ?? "";
     this.measure.start(null);
-    this.camera.view = null;
+    this.camera.close();
     if (layout.message) {
       return;
     }
     $$("state").textContent = "Reading …";
     const bytes = storedBytes(`layout-${index}`);
-    this.engine.postMessage({ type: "open", bytes, isImage: layout.isImage,
+    this.engine.postMessage({ type: "open", index, bytes, isImage: layout.isImage,
       isPlotted: layout.isSheet, settings: this._settings }, [bytes.buffer]);
   }
 
-  _opened({ width, height, matrix, layers, texts, bounds, count }) {
-    const layout = this.drawing.layouts[this.tabs.selected];
+  _opened({ index, width, height, matrix, layers, texts, bounds, count }) {
+    if (index !== this.tabs.selected) {  // another one has been selected meanwhile
+      return;
+    }
+    const layout = this.drawing.layouts[index];
     const isSheet = layout.isSheet || layout.isImage;
     this.layers.mark(layers);
     this._names = layers.map((layer) => layer.name);
@@ -88,7 +91,7 @@ class Viewer {
     const unit = layout.unit || paperUnit(layout, matrix);
     this.camera.open({ width, height, matrix, isSheet, viewports, unit }, isSheet ? whole : bounds);
     this._updateSearch();
-    this._readEntities(this.tabs.selected);
+    this._readEntities(index);
     $$("message").textContent = count === 0 ? "There is nothing on this layout." : "";
   }
 

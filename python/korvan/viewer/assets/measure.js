@@ -70,7 +70,7 @@ class Measure {
   }
 
   start(mode) {
-    this.mode = this.mode === mode ? null : mode;
+    this.mode = this.mode === mode || this.camera.view === null ? null : mode;
     this.points = [];
     this.pointer = null;
     this._finished = this._isFinishing = false;
