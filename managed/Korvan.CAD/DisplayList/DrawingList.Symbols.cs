@@ -205,13 +205,14 @@ internal sealed partial class DrawingList
             return;
         }
 
-        int at = item.FirstCoord;
+        ReadOnlySpan<double> coords = CoordsOf(item);
+        int at = 0;
         foreach (PathVerb verb in VerbsOf(item))
         {
             int end = at + (verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 });
             for (; at < end; at += 2)
             {
-                corners.Add(new Vec2(_coords[at], _coords[at + 1]));
+                corners.Add(new Vec2(coords[at], coords[at + 1]));
             }
         }
     }
@@ -247,8 +248,8 @@ internal sealed partial class DrawingList
         {
             case DisplayKind.Text:
                 TextRun run = from._texts[item.Extra];
-                _texts.Add(run with { Matrix = map * run.Matrix });
-                return _texts.Count - 1;
+                run = run with { Matrix = map * run.Matrix };
+                return _texts.Add(new ReadOnlySpan<TextRun>(in run));
             case DisplayKind.Image:
                 PlacedImage image = from._images[item.Extra];
                 _images.Add(image with { Matrix = map * image.Matrix });
@@ -278,7 +279,8 @@ internal sealed partial class DrawingList
             ref readonly DisplayItem item = ref _items[i];
             if (item.VerbCount > 0)
             {
-                (_verbCount, _coordCount) = (item.FirstVerb, item.FirstCoord);
+                _verbs.RemoveFrom(item.FirstVerb);
+                _coords.RemoveFrom(item.FirstCoord);
             }
         }
 

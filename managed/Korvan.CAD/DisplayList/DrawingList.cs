@@ -24,7 +24,6 @@ internal sealed partial class DrawingList
     /// <summary>Coordinates that count as an item where the number of stored items is limited.</summary>
     private const int CoordsPerItem = 16;
 
-    private readonly List<TextRun> _texts = [];
     private readonly List<Gradient> _gradients = [];
     private readonly List<PlacedImage> _images = [];
     private readonly List<string> _layers = [];
@@ -36,12 +35,11 @@ internal sealed partial class DrawingList
     private readonly Dictionary<StrokeStyle, int> _styleIndex = [];
     private readonly HashSet<int> _screenLayers = [];
     private readonly List<PlacedLink> _links = [];
-    private DisplayItem[] _items = new DisplayItem[256];
-    private PathVerb[] _verbs = new PathVerb[1024];
-    private double[] _coords = new double[4096];
+    private readonly BlockStore<PathVerb> _verbs = new();
+    private readonly BlockStore<double> _coords = new();
+    private readonly BlockStore<TextRun> _texts = new();
+    private DisplayItem[] _items = [];
     private int _itemCount;
-    private int _verbCount;
-    private int _coordCount;
     private Bounds2 _bounds = Bounds2.Empty;
     private Bounds2 _linked = Bounds2.Empty;
     private int _openLinks;
@@ -55,6 +53,9 @@ internal sealed partial class DrawingList
 
     /// <summary>Gets the most that is stored at once; nothing for all.</summary>
     internal int? MaxStored { get; init; }
+
+    /// <summary>Gets the number of items for which there is room from the beginning.</summary>
+    internal int Expected { get; init; } = 256;
 
     /// <summary>Gets what receives the stored items each time that the most is stored, before they are removed; null to
     /// remove them all, so that nothing but extents and counts is known.</summary>
@@ -71,7 +72,7 @@ internal sealed partial class DrawingList
 
     /// <summary>Determines whether a list has fewer items than a number, and no long ones among them.</summary>
     internal bool IsSmallerThan(int items) =>
-        _itemCount + (_coordCount / CoordsPerItem) < items && _images.Count == 0;
+        _itemCount + (_coords.End / CoordsPerItem) < items && _images.Count == 0;
 
     /// <summary>What has been drawn so far, as far as it lies in the clips that hold it.</summary>
     internal Bounds2 Bounds => _bounds;
@@ -82,9 +83,9 @@ internal sealed partial class DrawingList
     /// <summary>Kinds of entities that were met but have no picture, with their counts.</summary>
     internal Dictionary<string, int> Skipped { get; } = new(StringComparer.Ordinal);
 
-    internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => _verbs.AsSpan(item.FirstVerb, item.VerbCount);
+    internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => _verbs.From(item.FirstVerb)[..item.VerbCount];
 
-    internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => _coords.AsSpan(item.FirstCoord);
+    internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => _coords.From(item.FirstCoord);
 
     internal double[] DashOf(in DisplayItem item) => _dashes[item.Dash];
 
@@ -220,8 +221,7 @@ internal sealed partial class DrawingList
         }
 
         ref DisplayItem item = ref NewItem(DisplayKind.Text, color, layer);
-        item.Extra = _texts.Count;
-        _texts.Add(run);
+        item.Extra = _texts.Add(new ReadOnlySpan<TextRun>(in run));
     }
 
     internal void Image(PlacedImage image, int layer, in Bounds2 extent)
@@ -302,9 +302,9 @@ internal sealed partial class DrawingList
         Drain?.Invoke(this);
         IsPartial = true;
         _itemCount = 0;
-        _verbCount = 0;
-        _coordCount = 0;
-        _texts.Clear();
+        _verbs.RemoveFrom(0);
+        _coords.RemoveFrom(0);
+        _texts.RemoveFrom(0);
         _gradients.Clear();
         _images.Clear();
         _placements.Clear();
@@ -313,15 +313,16 @@ internal sealed partial class DrawingList
 
     private ref DisplayItem NewItem(DisplayKind kind, Rgba color, int layer)
     {
-        if (!_isResolving && (_itemCount >= MaxStored || _coordCount / CoordsPerItem >= MaxStored))
+        if (!_isResolving && (_itemCount >= MaxStored || _coords.End / CoordsPerItem >= MaxStored))
         {
             Empty();
         }
 
         if (_itemCount == _items.Length)
         {
-            Budget.VerifyRoom(2L * _itemCount * Unsafe.SizeOf<DisplayItem>());
-            Array.Resize(ref _items, _itemCount * 2);
+            int length = Math.Max(Expected, _itemCount * 2);
+            Budget.VerifyRoom((long)length * Unsafe.SizeOf<DisplayItem>());
+            Array.Resize(ref _items, length);
         }
 
         ref DisplayItem item = ref _items[_itemCount++];
@@ -340,30 +341,14 @@ internal sealed partial class DrawingList
     {
         ReadOnlySpan<PathVerb> newVerbs = path.Verbs;
         ReadOnlySpan<double> newCoords = path.Coords;
-        if (_coordCount + (long)newCoords.Length > MaxCoords)
+        if (_coords.End + (long)newCoords.Length > MaxCoords)
         {
             throw new RenderException(
                 $"The drawing needs more than {MaxCoords} coordinates on one page; it is too large to be rendered.");
         }
 
-        Grow(ref _verbs, _verbCount + newVerbs.Length);
-        Grow(ref _coords, _coordCount + newCoords.Length);
-        newVerbs.CopyTo(_verbs.AsSpan(_verbCount));
-        newCoords.CopyTo(_coords.AsSpan(_coordCount));
-        item.FirstVerb = _verbCount;
+        item.FirstVerb = _verbs.Add(newVerbs);
         item.VerbCount = newVerbs.Length;
-        item.FirstCoord = _coordCount;
-        _verbCount += newVerbs.Length;
-        _coordCount += newCoords.Length;
-    }
-
-    private static void Grow<T>(ref T[] array, int needed)
-    {
-        if (needed > array.Length)
-        {
-            long length = Math.Min(Array.MaxLength, Math.Max((long)array.Length * 2, needed));
-            Budget.VerifyRoom(length * Unsafe.SizeOf<T>());
-            Array.Resize(ref array, (int)length);
-        }
+        item.FirstCoord = _coords.Add(newCoords);
     }
 }

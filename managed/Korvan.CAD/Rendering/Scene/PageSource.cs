@@ -92,6 +92,7 @@ internal sealed class PageSource
         RenderStyle style = _options.Style() with
         {
             MaxStored = Stored(layout),
+            Expected = Math.Min(layout.Entities, Stored(layout) ?? MaxStored),
             HasSymbols = HasSymbols && !_options.AsBitmap,
         };
         DrawingList list = _scene.Build(layout, style, _engine);

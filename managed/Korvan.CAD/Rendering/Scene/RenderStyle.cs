@@ -41,6 +41,9 @@ internal sealed record RenderStyle
     /// <summary>The most items that a list stores at once; nothing for all.</summary>
     internal int? MaxStored { get; init; }
 
+    /// <summary>The number of items that is expected; 0 for a few.</summary>
+    internal int Expected { get; init; }
+
     /// <summary>What receives the items of a list that stores a part of them.</summary>
     internal Action<DrawingList>? Drain { get; init; }
 }

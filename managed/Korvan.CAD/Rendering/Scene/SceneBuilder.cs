@@ -17,6 +17,7 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed partial class SceneBuilder : IGeometrySink
 {
     private const int MaxEntities = 20_000_000;
+    private const int MinExpected = 256;
     private const string LinkApplication = "PE_URL";
     private const int XdataString = 1000;
 
@@ -32,7 +33,13 @@ internal sealed partial class SceneBuilder : IGeometrySink
     {
         _tables = tables;
         _style = style;
-        var list = new DrawingList { ColorMap = style.ColorMap, MaxStored = style.MaxStored, Drain = style.Drain };
+        var list = new DrawingList
+        {
+            ColorMap = style.ColorMap,
+            MaxStored = style.MaxStored,
+            Drain = style.Drain,
+            Expected = Math.Max(style.Expected, MinExpected),
+        };
         _canvas = new Canvas(list, engine)
         {
             StyleFont = name => tables.Style(name).Font,
