@@ -6,7 +6,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>Ranges of values in blocks: what was stored is found again, however long it is, and after removals.</summary>
+/// <summary>Ranges of values in blocks: what was stored is found again, whatever its length.</summary>
 public class BlockStoreTests
 {
     [Fact]
