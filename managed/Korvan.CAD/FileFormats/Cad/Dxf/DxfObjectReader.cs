@@ -33,6 +33,9 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             case CadInsertObject insert:
                 ReadAttributes(insert);
                 break;
+            case CadAttDef { XrecordObject: { } record }:
+                ReadLines(entity, record);
+                break;
         }
 
         return entity;
@@ -301,6 +304,10 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
                 CadAttrib attribute = new();
                 ReadBody(attribute);
                 insert.Attributes.Add(attribute);
+                if (attribute.XrecordObject is { } record)
+                {
+                    ReadLines(attribute, record);
+                }
             }
             else
             {
@@ -309,6 +316,26 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
                 return;
             }
         }
+    }
+
+    // Where the record of an attribute says so, its text of several lines is the next entity.
+    private void ReadLines(CadEntityBase attribute, CadXrecordObject record)
+    {
+        if (record.IsMultiline == 0 || attribute.Embedded is not null || !tags.Next())
+        {
+            return;
+        }
+
+        if (tags.Code != 0 || !tags.ValueIs("MTEXT"u8))
+        {
+            tags.Unread();
+            return;
+        }
+
+        CadMText lines = new();
+        ReadBody(lines);
+        KeptTags.Of(attribute).Embedded = EmbeddedMText.ToTags(lines);
+        record.IsMultiline = 0;
     }
 
     private CadSeqend? ReadSeqend()

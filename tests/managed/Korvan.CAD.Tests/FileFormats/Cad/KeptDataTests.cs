@@ -1,7 +1,9 @@
+using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Xunit;
@@ -89,6 +91,30 @@ public class KeptDataTests
             original.XdataContainer.XdataEntities[0].Data[0].Value));
         image.AddEntity(new RawEntity("WIDGET") { Kept = new KeptBits() });
         Assert.IsType<KeptBits>(image.Entities[1].Clone().Kept);
+    }
+
+    [Fact]
+    public void Text_of_several_lines_may_follow_its_attribute()
+    {
+        CadImage image = DxfText.Load(DxfText.Drawing(
+            0, "ATTDEF", 5, "2A", 8, "0", 100, "AcDbText", 1, "one", 100, "AcDbAttributeDefinition", 2, "A",
+            100, "AcDbXrecord", 280, 1, 70, 4, 70, 0, 70, 0, 2, "A",
+            0, "MTEXT", 8, "0", 100, "AcDbMText", 10, 1, 20, 2, 40, 5, 1, "one\\Ptwo",
+            0, "INSERT", 5, "2B", 8, "0", 100, "AcDbBlockReference", 66, 1, 2, "B", 10, 0, 20, 0,
+            0, "ATTRIB", 5, "2C", 8, "0", 100, "AcDbText", 1, "three", 100, "AcDbAttribute", 2, "A",
+            100, "AcDbXrecord", 280, 1, 70, 2, 70, 0, 70, 0, 2, "A",
+            0, "MTEXT", 8, "0", 100, "AcDbMText", 10, 1, 20, 2, 40, 5, 1, "three\\Pfour",
+            0, "ATTRIB", 5, "2D", 8, "0", 100, "AcDbText", 1, "five", 100, "AcDbAttribute", 2, "C",
+            0, "SEQEND", 5, "2E", 8, "0", 0, "MTEXT", 5, "2F", 8, "0", 100, "AcDbMText", 10, 0, 20, 0, 1, "six"));
+        for (int round = 0; round < 2; round++)
+        {
+            Assert.Equal(["CadAttDef", "CadInsertObject", "CadMText"], image.Entities.Select(item => item.GetType().Name));
+            Assert.Equal("one\\Ptwo", EmbeddedMText.FromTags(image.Entities[0].Embedded)!.Text);
+            IList<CadAttrib> attributes = ((CadInsertObject)image.Entities[1]).Attributes;
+            Assert.Equal(
+                ["three\\Pfour", null], attributes.Select(item => EmbeddedMText.FromTags(item.Embedded)?.Text));
+            image = DxfText.Load(DxfText.Save(image));
+        }
     }
 
     private sealed class KeptBits : KeptData
