@@ -118,6 +118,8 @@ class Check:
 
 def main() -> int:
     require("slurmctld", "slurmd", "sbatch", "munged", root=True)
+    # Jobs in the background of a shell ignore Ctrl-C, and so would every process that they start.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     with tempfile.TemporaryDirectory(prefix="korvan-slurm-") as folder:
         root = Path(folder)
         root.chmod(0o755)
