@@ -30,6 +30,12 @@ internal sealed class Budget : IDisposable
 
     /// <summary>The part of the memory that a collection needs while it moves objects.</summary>
     private const int CollectionShare = 16;
+
+    /// <summary>The part of the memory that each cache may take.</summary>
+    private const int KeptShare = 8;
+
+    /// <summary>The part of the memory that a page takes besides its pixels.</summary>
+    private const int PageShare = 3;
     private const long MinUnsettled = 48L << 20;
     private const long MaxUnsettled = 128L << 20;
 
@@ -162,6 +168,12 @@ internal sealed class Budget : IDisposable
         }
     }
 
+    /// <summary>Returns how many things of a size may be kept to save time: at most a number, and no more than a small
+    /// part of the memory that the call may take.</summary>
+    internal static int Room(int most, int bytes) => _current is { } budget
+        ? (int)Math.Min(most, (budget.Memory - budget.PixelMemory) / KeptShare / bytes)
+        : most;
+
     /// <summary>Adds what the call may take for a further file.</summary>
     internal void AddSource(long length)
     {
@@ -173,9 +185,11 @@ internal sealed class Budget : IDisposable
     }
 
     /// <summary>Takes memory for pixels if there is enough left.</summary>
-    internal bool TryTakePixels(long bytes)
+    /// <param name="bytes">The memory.</param>
+    /// <param name="forPage">Whether a page is drawn into the pixels, which takes memory itself.</param>
+    internal bool TryTakePixels(long bytes, bool forPage = false)
     {
-        if (Interlocked.Add(ref _pixels, bytes) <= Memory)
+        if (Interlocked.Add(ref _pixels, bytes) <= Memory - (forPage ? Memory / PageShare : 0))
         {
             return true;
         }

@@ -199,8 +199,8 @@ def face() -> str:
     return "0\n3DFACE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n0\n12\n9\n22\n9\n13\n0\n23\n9\n"
 
 
-def text(content: str, layer: str = "0") -> str:
-    return f"0\nTEXT\n8\n{layer}\n10\n0\n20\n40\n40\n5\n1\n{content}\n"
+def text(content: str, layer: str = "0", x: float = 0, y: float = 40) -> str:
+    return f"0\nTEXT\n8\n{layer}\n10\n{x}\n20\n{y}\n40\n5\n1\n{content}\n"
 
 
 def mtext(content: str, width: float = 100) -> str:

@@ -148,6 +148,23 @@ class Bombs(unittest.TestCase):
                 self.assertLess(len(data), 20_000)
                 self.assertLessEqual(set(self.convert("packed.dwg", data, "PngOptions", "PdfOptions")), NOT_SAVED)
 
+    def test_many_texts_are_drawn_at_each_size(self) -> None:
+        texts = (hostile.text(f"Room {i}, of {i * i}", "0", i % 300 * 60, i // 300 * 10) for i in range(60_000))
+        (self.folder / "texts.dxf").write_bytes(hostile.drawing("".join(texts)))
+        output = run("""
+            import korvan.cad as cad, sys
+            from korvan.cad import imageoptions
+            options = imageoptions.PngOptions()
+            page = imageoptions.CadRasterizationOptions()
+            options.vector_rasterization_options = page
+            image = cad.Image.load(sys.argv[1])
+            for pixels in (4000.0, 6000.0):
+                page.page_width = page.page_height = pixels
+                image.save(sys.argv[2], options)
+                print(cad.Image.load(sys.argv[2]).width)
+        """, str(self.folder / "texts.dxf"), str(self.folder / "out.png")).stdout
+        self.assertEqual(output.split(), ["4000", "6000"])
+
     def test_the_program_can_allow_more(self) -> None:
         (self.folder / "packed.ifczip").write_bytes(hostile.ifczip(300 << 20))
         output = run("""

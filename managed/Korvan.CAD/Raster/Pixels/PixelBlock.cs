@@ -14,10 +14,13 @@ internal sealed unsafe class PixelBlock : IDisposable
     private readonly MappedMemory? _mapped;
     private int* _data;
 
-    internal PixelBlock(long pixels)
+    /// <summary>Takes a buffer.</summary>
+    /// <param name="pixels">The number of pixels.</param>
+    /// <param name="forPage">Whether a page is drawn into them.</param>
+    internal PixelBlock(long pixels, bool forPage = false)
     {
         _bytes = pixels * sizeof(int);
-        bool fitsFile = Budget.Current?.TryTakePixels(_bytes) ?? true;
+        bool fitsFile = Budget.Current?.TryTakePixels(_bytes, forPage) ?? true;
         _budget = fitsFile ? Budget.Current : null;
         try
         {

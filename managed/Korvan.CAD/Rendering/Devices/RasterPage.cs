@@ -26,7 +26,7 @@ internal sealed unsafe class RasterPage : IDisposable
         NativeLibraries.Require();
         Width = width;
         Height = height;
-        _pixels = new PixelBlock((long)width * height);
+        _pixels = new PixelBlock((long)width * height, forPage: true);
         nint surface = Cairo.ImageSurfaceCreateForData(
             (byte*)_pixels.Data, CairoFormat.Argb32, width, height, width * sizeof(int));
         _surface = new NativeHandle(surface, &Cairo.SurfaceDestroy);

@@ -23,6 +23,7 @@ internal static class PageExporter
         {
             InParts = true,
             HasSymbols = true,
+            HasHiddenText = true,
             LargestPage = PdfDocument.LargestPage,
         };
         PdfDocument.Write(output, engine, pages.Pages(), new PdfSettings
@@ -40,6 +41,7 @@ internal static class PageExporter
         {
             InParts = options.TextAsShapes || options.FontStoreType == FontStoreType.Installed, // no fonts come first
             HasSymbols = true,
+            HasHiddenText = true,
         };
         SvgDocument.Write(output, engine, pages.SinglePage(), options);
     }

@@ -34,6 +34,9 @@ internal sealed class Canvas
 
     internal TextEngine Engine { get; }
 
+    /// <summary>Gets whether texts that are drawn by strokes are hidden text, too.</summary>
+    internal bool HasHiddenText { get; init; }
+
     /// <summary>The face of a text style, for texts inside line types.</summary>
     internal Func<string, FontSpec> StyleFont { get; set; } = static _ => FontSpec.Default;
 
@@ -198,7 +201,7 @@ internal sealed class Canvas
             return;
         }
 
-        double own = Engine.HiddenAdvance(outline, text);
+        double own = HasHiddenText ? Engine.HiddenAdvance(outline, text) : advance; // others look at its size alone
         if (own > 0 && advance > 0)
         {
             List.Text(

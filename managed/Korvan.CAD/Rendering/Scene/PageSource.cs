@@ -28,6 +28,7 @@ internal sealed class PageSource
 
     /// <summary>The same for pixels, which several threads draw where all items are there.</summary>
     private const int MaxStoredForPixels = 262_144;
+    private const int BytesPerItem = 128;
 
     /// <summary>Items of a part. Its coordinates take 64 KiB, less than what the large object heap begins with, whose
     /// growth starts collections of the whole drawing.</summary>
@@ -57,6 +58,9 @@ internal sealed class PageSource
 
     /// <summary>Gets whether the device draws symbols.</summary>
     internal bool HasSymbols { get; init; }
+
+    /// <summary>Gets whether text of the device can be searched where it is not seen.</summary>
+    internal bool HasHiddenText { get; init; }
 
     /// <summary>Gets the largest side that a page may have, in units of the device.</summary>
     internal double LargestPage { get; init; } = DefaultLargestPage;
@@ -94,6 +98,7 @@ internal sealed class PageSource
             MaxStored = Stored(layout),
             Expected = Math.Min(layout.Entities, Stored(layout) ?? MaxStored),
             HasSymbols = HasSymbols && !_options.AsBitmap,
+            HasHiddenText = HasHiddenText && !_options.AsBitmap,
         };
         DrawingList list = _scene.Build(layout, style, _engine);
         PaperSheet? sheet = layout.SheetFor(list.Bounds);
@@ -155,7 +160,7 @@ internal sealed class PageSource
     {
         if (_device == DeviceKind.Pixels)
         {
-            return MaxStoredForPixels;
+            return Budget.Room(MaxStoredForPixels, BytesPerItem);
         }
 
         return !InParts || _options.AsBitmap ? null : layout.Entities > MaxStored ? PartSize : MaxStored;

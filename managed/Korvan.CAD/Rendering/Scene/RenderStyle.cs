@@ -38,6 +38,10 @@ internal sealed record RenderStyle
     /// <summary>Draws blocks that repeat as symbols, for devices that have them.</summary>
     internal bool HasSymbols { get; init; }
 
+    /// <summary>Places the outlines of texts that are drawn by strokes as hidden text, for devices whose text can be
+    /// searched and selected.</summary>
+    internal bool HasHiddenText { get; init; }
+
     /// <summary>The most items that a list stores at once; nothing for all.</summary>
     internal int? MaxStored { get; init; }
 

@@ -42,6 +42,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         };
         _canvas = new Canvas(list, engine)
         {
+            HasHiddenText = style.HasHiddenText,
             StyleFont = name => tables.Style(name).Font,
         };
         _pens = new PenResolver(tables, style, _canvas.List, onPaper)

@@ -21,6 +21,9 @@ internal sealed unsafe class TextEngine : IDisposable
 
     private const int MaxCachedLines = 50_000;
     private const int MaxCachedCharacters = 500_000;
+
+    /// <summary>What the glyphs of a character take; strokes may take more.</summary>
+    private const int BytesPerCharacter = 100;
     private const int MaxFonts = 500;
     private const int StepsPerFont = 100;
     private const int CharactersPerStep = 16;
@@ -155,8 +158,7 @@ internal sealed unsafe class TextEngine : IDisposable
         {
             Budget.Step(1 + (text.Length / CharactersPerStep));
             line = StrokeRun.Draw(face, Shown(text), CapRatio(font), letterSpacing);
-            ClearIfFull(known, text);
-
+            ClearIfFull(known, Math.Max(text.Length, (line?.Path.Size ?? 0) / BytesPerCharacter));
             known.Add(key, line);
         }
 
@@ -254,7 +256,7 @@ internal sealed unsafe class TextEngine : IDisposable
             string shown = Shown(text);
             line = Shaper.Line(_shaped[font], shown, letterSpacing);
             UnknownGlyphs += line.UnknownGlyphs + text.Length - shown.Length;
-            ClearIfFull(known, text);
+            ClearIfFull(known, text.Length);
             known.Add(key, line);
         }
 
@@ -264,11 +266,10 @@ internal sealed unsafe class TextEngine : IDisposable
     private static string Shown(string text) =>
         text.Length <= TextShaper.MaxCharacters ? text : text[..TextShaper.MaxCharacters];
 
-    // Glyphs and strokes take a hundred bytes a character.
-    private void ClearIfFull<T>(Dictionary<string, T> known, string text)
+    private void ClearIfFull<T>(Dictionary<string, T> known, int characters)
     {
-        _cachedCharacters += text.Length;
-        if (_cachedCharacters > MaxCachedCharacters)
+        _cachedCharacters += characters;
+        if (_cachedCharacters > Budget.Room(MaxCachedCharacters, BytesPerCharacter))
         {
             _lines.ForEach(static lines => lines.Clear());
             _strokes.ForEach(static lines => lines.Clear());

@@ -30,6 +30,7 @@ internal static class StrokeRun
             at += (glyph.Advance * capRatio) + letterSpacing;
         }
 
+        path.Trim();
         return new StrokeLine(path, at);
     }
 }
