@@ -108,7 +108,8 @@ public class KeptDataTests
             0, "SEQEND", 5, "2E", 8, "0", 0, "MTEXT", 5, "2F", 8, "0", 100, "AcDbMText", 10, 0, 20, 0, 1, "six"));
         for (int round = 0; round < 2; round++)
         {
-            Assert.Equal(["CadAttDef", "CadInsertObject", "CadMText"], image.Entities.Select(item => item.GetType().Name));
+            Assert.Equal(
+                ["CadAttDef", "CadInsertObject", "CadMText"], image.Entities.Select(item => item.GetType().Name));
             Assert.Equal("one\\Ptwo", EmbeddedMText.FromTags(image.Entities[0].Embedded)!.Text);
             IList<CadAttrib> attributes = ((CadInsertObject)image.Entities[1]).Attributes;
             Assert.Equal(
