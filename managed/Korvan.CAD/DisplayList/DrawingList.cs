@@ -64,6 +64,9 @@ internal sealed partial class DrawingList
     /// <summary>Gets whether items were removed.</summary>
     internal bool IsPartial { get; private set; }
 
+    /// <summary>Gets whether nothing but the extents is still to be known.</summary>
+    internal bool IsMeasured => IsPartial && Drain is null;
+
     internal ReadOnlySpan<DisplayItem> Items => _items.AsSpan(0, _itemCount);
 
     internal IReadOnlyList<string> Layers => _layers;

@@ -34,16 +34,6 @@ internal sealed class PathBuffer
 
     internal ref readonly Bounds2 Bounds => ref _bounds;
 
-    /// <summary>Gets the memory of the path, in bytes.</summary>
-    internal int Size => _verbs.Length + (_coords.Length * sizeof(double));
-
-    /// <summary>Gives back the memory for what might follow.</summary>
-    internal void Trim()
-    {
-        Array.Resize(ref _verbs, _verbCount);
-        Array.Resize(ref _coords, _coordCount);
-    }
-
     internal void Clear()
     {
         _verbCount = 0;

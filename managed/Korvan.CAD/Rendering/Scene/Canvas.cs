@@ -201,6 +201,13 @@ internal sealed class Canvas
             return;
         }
 
+        Bounds2 ink = box;
+        ink.Add(Mapped(matrix, strokes.Ink));
+        if (List.IsMeasured && List.Holds(ink, 0))
+        {
+            return;
+        }
+
         double own = HasHiddenText ? Engine.HiddenAdvance(outline, text) : advance; // others look at its size alone
         if (own > 0 && advance > 0)
         {
@@ -215,7 +222,7 @@ internal sealed class Canvas
         }
 
         _glyphs.Clear();
-        _glyphs.AppendMapped(strokes.Path, matrix);
+        Engine.AddStrokes(font, text, letterSpacing, matrix, _glyphs);
         List.Stroke(_glyphs, new StrokeAttributes
         {
             Color = pen.Color,
@@ -240,13 +247,20 @@ internal sealed class Canvas
 
         Bounds2 ink = Engine.InkOf(run);
         Bounds2 all = box;
-        for (int corner = 0; corner < 4 && !ink.IsEmpty; corner++)
+        all.Add(Mapped(ems, ink));
+        List.Text(run with { Ink = ink }, pen.Color, pen.Layer, all);
+    }
+
+    private static Bounds2 Mapped(in Affine2 map, in Bounds2 box)
+    {
+        Bounds2 mapped = Bounds2.Empty;
+        for (int corner = 0; corner < 4 && !box.IsEmpty; corner++)
         {
-            Vec2 p = ems.Point((corner & 1) == 0 ? ink.MinX : ink.MaxX, (corner >> 1) == 0 ? ink.MinY : ink.MaxY);
-            all.Add(p.X, p.Y);
+            Vec2 p = map.Point((corner & 1) == 0 ? box.MinX : box.MaxX, (corner >> 1) == 0 ? box.MinY : box.MaxY);
+            mapped.Add(p.X, p.Y);
         }
 
-        List.Text(run with { Ink = ink }, pen.Color, pen.Layer, all);
+        return mapped;
     }
 
     private static Affine2 Wider(in Affine2 matrix, double factor) => matrix * new Affine2(factor, 0, 0, 1, 0, 0);

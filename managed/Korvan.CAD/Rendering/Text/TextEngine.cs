@@ -22,7 +22,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int MaxCachedLines = 50_000;
     private const int MaxCachedCharacters = 500_000;
 
-    /// <summary>What the glyphs of a character take; strokes may take more.</summary>
+    /// <summary>What the glyphs of a character take.</summary>
     private const int BytesPerCharacter = 100;
     private const int MaxFonts = 500;
     private const int StepsPerFont = 100;
@@ -144,7 +144,7 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Returns the factor on the width of the outlines of a font.</summary>
     internal double WidthOf(int font) => _faces[font].Width;
 
-    /// <summary>Returns the strokes of a run; null where its font has none, or not for all characters.</summary>
+    /// <summary>Measures the strokes of a run; null where its font has none, or not for all characters.</summary>
     internal StrokeLine? StrokesOf(int font, string text, double letterSpacing)
     {
         if (_faces[font].Strokes is not { } face || text.Length == 0)
@@ -157,13 +157,18 @@ internal sealed unsafe class TextEngine : IDisposable
         if (!known.TryGetValue(key, out StrokeLine? line))
         {
             Budget.Step(1 + (text.Length / CharactersPerStep));
-            line = StrokeRun.Draw(face, Shown(text), CapRatio(font), letterSpacing);
-            ClearIfFull(known, Math.Max(text.Length, (line?.Path.Size ?? 0) / BytesPerCharacter));
+            line = StrokeRun.Measure(face, Shown(text), CapRatio(font), letterSpacing);
+            ClearIfFull(known, text.Length);
             known.Add(key, line);
         }
 
         return line;
     }
+
+    /// <summary>Adds the strokes of a run that <see cref="StrokesOf"/> has measured; the matrix maps its ems, y up from
+    /// the baseline.</summary>
+    internal void AddStrokes(int font, string text, double letterSpacing, in Affine2 matrix, PathBuffer target) =>
+        StrokeRun.Append(_faces[font].Strokes!, Shown(text), CapRatio(font), letterSpacing, matrix, target);
 
     /// <summary>How far the pen moves over the outlines of a text, in ems. Characters that no font has do not count as
     /// unknown, since they are drawn otherwise.</summary>

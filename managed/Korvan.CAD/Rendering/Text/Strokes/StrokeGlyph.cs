@@ -6,5 +6,5 @@ namespace Korvan.CAD.Rendering.Text.Strokes;
 /// up from the baseline.</summary>
 internal sealed record StrokeGlyph(PathBuffer Path, double Advance);
 
-/// <summary>The strokes of a run in ems of its font, and their advance.</summary>
-internal sealed record StrokeLine(PathBuffer Path, double Advance);
+/// <summary>How far the pen moves over the strokes of a run, and the box around them, in ems of its font.</summary>
+internal sealed record StrokeLine(double Advance, Bounds2 Ink);
