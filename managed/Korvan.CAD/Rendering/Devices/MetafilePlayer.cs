@@ -15,6 +15,9 @@ internal abstract class MetafilePlayer : PagePlayer
     /// <summary>Characters that are measured together: what is measured for each grows with them.</summary>
     private const int LongestPiece = 64;
 
+    /// <summary>How far a glyph may be from where the one before ends, in ems, to be drawn there.</summary>
+    private const double SmallestOffset = 1e-4;
+
     private readonly PathBuffer _dashes = new();
     private readonly double _tolerance;
 
@@ -96,16 +99,49 @@ internal abstract class MetafilePlayer : PagePlayer
             length = Math.Min(LongestPiece, ends.Length - start);
             length -= length == LongestPiece && char.IsHighSurrogate(run.Text[start + length - 1]) ? 1 : 0;
             TextRun piece = run with { Text = run.Text.Substring(start, length) };
-            for (int i = 0, next; i < length; i = next)
+            if (!TryAddAdvances(piece, before, ends.AsSpan(start, length)))
             {
-                next = i + LengthAt(piece.Text, i);
-                ends[start + i] = before + StartOf(piece, next);
+                for (int i = 0, next; i < length; i = next)
+                {
+                    next = i + LengthAt(piece.Text, i);
+                    ends[start + i] = before + StartOf(piece, next);
+                }
             }
 
             before += Engine.Advance(run.Font, piece.Text, run.LetterSpacing);
         }
 
         return ends;
+    }
+
+    // Where each character is a glyph, in the order of the text, the glyphs of the whole tell where they end.
+    private bool TryAddAdvances(in TextRun run, double before, Span<double> ends)
+    {
+        if (run.LetterSpacing != 0 || Engine.OutlineOf(run.Font) != run.Font || Engine.WidthOf(run.Font) != 1)
+        {
+            return false;
+        }
+
+        int at = 0;
+        double x = 0;
+        foreach (ShapedRun part in Engine.Line(run).Runs)
+        {
+            foreach (ShapedGlyph glyph in part.Glyphs)
+            {
+                int length = LengthAt(run.Text, at);
+                if (glyph.TextStart != at || glyph.TextLength != length || length == 0 || !glyph.IsAlone
+                    || Math.Abs(glyph.X - x) > SmallestOffset)
+                {
+                    return false;
+                }
+
+                x += glyph.Advance;
+                ends[at] = before + x;
+                at += length;
+            }
+        }
+
+        return at == run.Text.Length;
     }
 
     /// <summary>Where a character starts, in ems. What is kerned is the advance of the one before.</summary>
