@@ -165,6 +165,22 @@ class Bombs(unittest.TestCase):
         """, str(self.folder / "texts.dxf"), str(self.folder / "out.png")).stdout
         self.assertEqual(output.split(), ["4000", "6500"])
 
+    def test_large_pages_as_bitmaps_take_no_more_than_others(self) -> None:
+        (self.folder / "plan.dxf").write_bytes(hostile.drawing(hostile.line()))
+        output = run("""
+            import korvan.cad as cad, sys
+            from korvan.cad import imageoptions
+            image = cad.Image.load(sys.argv[1])
+            for name in ("PdfOptions", "SvgOptions", "EmfOptions", "WmfOptions", "CgmOptions", "Html5Options"):
+                options = getattr(imageoptions, name)()
+                page = imageoptions.CadRasterizationOptions()
+                page.page_width, page.page_height, page.content_as_bitmap = 2400.0, 1700.0, True
+                options.vector_rasterization_options = page
+                image.save(sys.argv[2], options)
+                print(name)
+        """, str(self.folder / "plan.dxf"), str(self.folder / "out")).stdout
+        self.assertEqual(len(output.split()), 6)
+
     def test_the_program_can_allow_more(self) -> None:
         (self.folder / "packed.ifczip").write_bytes(hostile.ifczip(300 << 20))
         output = run("""

@@ -132,4 +132,7 @@ internal sealed record PlacedImage(int Width, int Height, byte[] Pixels, Affine2
 {
     /// <summary>Whether pixels are cells with sharp borders, however large they are drawn.</summary>
     internal bool Sharp { get; init; }
+
+    /// <summary>Gets whether the image has one place, so that nobody has to keep it for others.</summary>
+    internal bool IsPlacedOnce { get; init; }
 }

@@ -58,6 +58,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     private readonly MarkupWriter _calls;
     private readonly ContentBlocks _pictures = new();
     private readonly Dictionary<PlacedImage, int> _pictureNumbers = new(new SamePixels());
+    private int _pictureCount;
     private readonly Stack<StrokeStyle> _saved = new();
     private StrokeStyle _style = NoStyle;
 
@@ -145,10 +146,10 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void Image(PlacedImage image, in Affine2 matrix)
     {
-        if (!_pictureNumbers.TryGetValue(image, out int number))
+        if (image.IsPlacedOnce || !_pictureNumbers.TryGetValue(image, out int number))
         {
-            number = _pictureNumbers.Count;
-            _pictureNumbers.Add(image, number);
+            number = _pictureCount++;
+            _ = image.IsPlacedOnce || _pictureNumbers.TryAdd(image, number);
             Define(image);
         }
 

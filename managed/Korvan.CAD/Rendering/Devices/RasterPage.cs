@@ -185,13 +185,15 @@ internal sealed unsafe class RasterPage : IDisposable
         return grid;
     }
 
-    internal byte[] CopyPixels()
+    /// <summary>Copies rows of pixels, the last one excluded.</summary>
+    internal byte[] CopyPixels(int first, int end)
     {
-        Budget.VerifyRoom((long)Width * Height * 4);
-        var pixels = new byte[(long)Width * Height * 4];
-        for (int y = 0; y < Height; y++)
+        long length = (long)Width * (end - first) * sizeof(int);
+        Budget.VerifyRoom(length);
+        var pixels = new byte[length];
+        for (int y = first; y < end; y++)
         {
-            Row(y).CopyTo(pixels.AsSpan(y * Width * 4));
+            Row(y).CopyTo(pixels.AsSpan((y - first) * Width * sizeof(int)));
         }
 
         return pixels;

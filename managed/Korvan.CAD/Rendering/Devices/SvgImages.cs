@@ -8,13 +8,14 @@ namespace Korvan.CAD.Rendering.Devices;
 internal sealed class SvgImages(MarkupWriter writer, SvgResources resources, InterpolationMode interpolation)
 {
     private readonly Dictionary<PlacedImage, int> _numbers = new(new SamePixels());
+    private int _count;
 
     internal void Write(PlacedImage image, in Affine2 map)
     {
-        if (!_numbers.TryGetValue(image, out int number))
+        if (image.IsPlacedOnce || !_numbers.TryGetValue(image, out int number))
         {
-            number = _numbers.Count + 1;
-            _numbers.Add(image, number);
+            number = ++_count;
+            _ = image.IsPlacedOnce || _numbers.TryAdd(image, number);
             Define(image, number);
         }
 

@@ -82,18 +82,28 @@ internal sealed class PdfFile
     {
         if (compress && data.Length > 0)
         {
-            using var packed = new MemoryStream();
-            using (var zlib = new ZLibStream(packed, CompressionLevel.Optimal, leaveOpen: true))
-            {
-                zlib.Write(data);
-            }
-
-            WriteStream(number, entries, packed.GetBuffer().AsSpan(0, (int)packed.Length), "/Filter/FlateDecode"u8);
+            AddPacked(number, entries, Pack(data));
         }
         else
         {
             WriteStream(number, entries, data, default);
         }
+    }
+
+    /// <summary>Writes an object with a stream that <see cref="Pack"/> has compressed.</summary>
+    internal void AddPacked(int number, PdfBuffer entries, ReadOnlyMemory<byte> data) =>
+        WriteStream(number, entries, data.Span, "/Filter/FlateDecode"u8);
+
+    /// <summary>Compresses a stream.</summary>
+    internal static ReadOnlyMemory<byte> Pack(ReadOnlySpan<byte> data)
+    {
+        using var packed = new MemoryStream();
+        using (var zlib = new ZLibStream(packed, CompressionLevel.Optimal, leaveOpen: true))
+        {
+            zlib.Write(data);
+        }
+
+        return packed.GetBuffer().AsMemory(0, (int)packed.Length);
     }
 
     /// <summary>Begins an object with a compressed stream of unknown length, which ends when the result is closed.

@@ -15,6 +15,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
 
     private readonly Dictionary<Key, int> _numbers = [];
     private readonly Queue<Waiting> _waiting = [];
+    private readonly Queue<Packed> _packed = [];
 
     /// <summary>Returns the number of the object of an image.</summary>
     internal int Of(PlacedImage image, in PaintSettings settings, RenderNotes notes)
@@ -29,11 +30,20 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
         }
 
         number = file.New();
-        _numbers.Add(key, number);
-        _waiting.Enqueue(new Waiting(number, image, settings.Background, smooth));
         if (!hasTransparency && (HasAlpha(image) || image.Opacity < 1))
         {
             notes.Add(RenderErrorCode.TransparencyBlended, "transparent images were mixed with the colour of the page");
+        }
+
+        var one = new Waiting(number, image, settings.Background, smooth);
+        if (image.IsPlacedOnce)
+        {
+            Pack(one); // its pixels take more memory than what is made of them
+        }
+        else
+        {
+            _numbers.Add(key, number);
+            _waiting.Enqueue(one);
         }
 
         return number;
@@ -42,24 +52,34 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
     /// <summary>Writes the images that content refers to.</summary>
     internal void Write()
     {
-        while (_waiting.TryDequeue(out Waiting? one))
+        do
         {
-            Write(one.Number, one.Image, one.Background, one.IsSmooth);
+            while (_packed.TryDequeue(out Packed? ready))
+            {
+                file.AddPacked(ready.Number, ready.Entries, ready.Data);
+            }
+
+            if (_waiting.TryDequeue(out Waiting? one))
+            {
+                Pack(one);
+            }
         }
+        while (_packed.Count > 0);
     }
 
-    private void Write(int number, PlacedImage image, Rgba background, bool smooth)
+    private void Pack(Waiting one)
     {
+        (int number, PlacedImage image, Rgba background, bool smooth) = one;
         bool hasAlpha = HasAlpha(image);
         int mask = hasAlpha && hasTransparency ? file.New() : 0;
         double opacity = hasTransparency ? 1 : Math.Clamp(image.Opacity, 0, 1);
         byte[] colors = Colors(image, opacity, background, out bool isGray);
         PdfBuffer entries = Entries(image, isGray, smooth);
         _ = mask > 0 ? entries.Raw("/SMask "u8).Ref(mask) : entries;
-        AddRows(number, entries, colors, isGray ? 1 : 3, image.Width);
+        PackRows(number, entries, colors, isGray ? 1 : 3, image.Width);
         if (mask > 0)
         {
-            AddRows(mask, Entries(image, isGray: true, smooth), Alphas(image), 1, image.Width);
+            PackRows(mask, Entries(image, isGray: true, smooth), Alphas(image), 1, image.Width);
         }
     }
 
@@ -72,7 +92,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
     }
 
     /// <summary>Compresses rows as differences to those above them (ISO 32000-1, 7.4.4.4).</summary>
-    private void AddRows(int number, PdfBuffer entries, byte[] samples, int channels, int width)
+    private void PackRows(int number, PdfBuffer entries, byte[] samples, int channels, int width)
     {
         const byte up = 2;
         int stride = width * channels;
@@ -90,7 +110,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
         }
 
         entries.Raw("/DecodeParms<</Predictor 15/Colors "u8).Int(channels).Raw("/Columns "u8).Int(width).Raw(">>"u8);
-        file.AddStream(number, entries, data);
+        _packed.Enqueue(new Packed(number, entries, PdfFile.Pack(data)));
     }
 
     /// <summary>The colours without their alpha, or blended with the background where none is kept.</summary>
@@ -168,4 +188,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
 
     /// <summary>An image that content refers to and that is not written yet.</summary>
     private sealed record Waiting(int Number, PlacedImage Image, Rgba Background, bool IsSmooth);
+
+    /// <summary>A stream of an image as the file has it, which is written once no other stream is open.</summary>
+    private sealed record Packed(int Number, PdfBuffer Entries, ReadOnlyMemory<byte> Data);
 }

@@ -22,6 +22,14 @@ internal sealed class PageSource
     private const double BorderMillimetres = 5;
     private const double MaxBitmapPixels = 60_000_000;
 
+    /// <summary>Pixels up to which a page is one image. Of more, it is strips, each of which is gone before the next
+    /// one is made.</summary>
+    private const double MaxPixelsAtOnce = 9_000_000;
+    private const int PixelsOfStrip = 2_000_000;
+
+    /// <summary>Rows that strips share, so that no gap shows between them.</summary>
+    private const int SharedRows = 2;
+
     /// <summary>Items up to which a list is kept for a device that could draw it in parts. Of more, the list is made
     /// twice, as that takes less than the memory for it.</summary>
     private const int MaxStored = 65_536;
@@ -158,12 +166,12 @@ internal sealed class PageSource
 
     private int? Stored(ScenePage layout)
     {
-        if (_device == DeviceKind.Pixels)
+        if (_device == DeviceKind.Pixels || _options.AsBitmap)
         {
             return Budget.Room(MaxStoredForPixels, BytesPerItem);
         }
 
-        return !InParts || _options.AsBitmap ? null : layout.Entities > MaxStored ? PartSize : MaxStored;
+        return !InParts ? null : layout.Entities > MaxStored ? PartSize : MaxStored;
     }
 
     private void Replay(ScenePage layout, RenderStyle style, Action<DrawingList> drain) =>
@@ -238,22 +246,53 @@ internal sealed class PageSource
             UnitsPerMillimetre = page.Settings.UnitsPerMillimetre * k,
             Hairline = page.Settings.Hairline * k,
         };
-        var large = new Page(page.Name, Math.Max(1, page.Width * k), Math.Max(1, page.Height * k), page.List, settings);
-        using RasterPage raster = RasterPage.Render(_engine, large);
-        var list = new DrawingList();
-        var place = new Affine2(page.Width, 0, 0, -page.Height, 0, page.Height);
-        list.Image(
-            new PlacedImage(raster.Width, raster.Height, raster.CopyPixels(), place, 1), -1,
-                Bounds2.Of(0, 0, page.Width, page.Height));
-        return page with
+        Page large = page with
         {
-            List = list,
+            Width = Math.Max(1, page.Width * k),
+            Height = Math.Max(1, page.Height * k),
+            Settings = settings,
+            Overlay = null,
+        };
+        Page drawn = page with
+        {
+            List = new DrawingList(),
+            Replay = null,
             Settings = page.Settings with
             {
                 ToDevice = Affine2.Identity,
                 Clip = null,
-                Interpolation = InterpolationMode.Default
-            }
+                Interpolation = InterpolationMode.Default,
+            },
         };
+        if (InParts && large.Width * large.Height > MaxPixelsAtOnce)
+        {
+            return drawn with { Replay = drain => DrawStrips(large, drawn, drain) };
+        }
+
+        using RasterPage raster = RasterPage.Render(_engine, large);
+        Put(drawn.List, raster, drawn, 0, raster.Height);
+        return drawn;
+    }
+
+    private void DrawStrips(Page large, Page drawn, Action<DrawingList> drain)
+    {
+        using RasterPage raster = RasterPage.Render(_engine, large);
+        int rows = Math.Max(1, PixelsOfStrip / raster.Width);
+        for (int top = 0; top < raster.Height; top += rows)
+        {
+            var list = new DrawingList();
+            Put(list, raster, drawn, top, Math.Min(raster.Height, top + rows + SharedRows));
+            drain(list);
+        }
+    }
+
+    /// <summary>Puts rows of pixels onto the page that they fill.</summary>
+    private static void Put(DrawingList list, RasterPage raster, Page page, int top, int end)
+    {
+        double row = page.Height / raster.Height;
+        var place = new Affine2(page.Width, 0, 0, -row * (end - top), 0, row * end);
+        list.Image(
+            new PlacedImage(raster.Width, end - top, raster.CopyPixels(top, end), place, 1) { IsPlacedOnce = true }, -1,
+            Bounds2.Of(0, row * top, page.Width, row * end));
     }
 }

@@ -17,7 +17,7 @@ public class BandTests
         using var engine = new TextEngine();
         Page page = PdfSample.PageOf(PdfSample.List(engine));
         using RasterPage whole = RasterPage.Render(engine, page, bands: 3);
-        byte[] pixels = whole.CopyPixels();
+        byte[] pixels = whole.CopyPixels(0, whole.Height);
 
         // The parts come with a font that the threads have not seen when they begin.
         using var late = new TextEngine();
@@ -27,7 +27,7 @@ public class BandTests
             Replay = drain => drain(PdfSample.List(late, maxStored: 2, drain)),
         };
         using RasterPage inParts = RasterPage.Render(late, parts, bands: 3);
-        Assert.Equal(pixels, inParts.CopyPixels());
+        Assert.Equal(pixels, inParts.CopyPixels(0, inParts.Height));
     }
 
     [Theory]
@@ -99,7 +99,7 @@ public class BandTests
             list.Fill(path, new Rgba(200, 40, 0, 180), 0, evenOdd);
             using var engine = new TextEngine();
             using RasterPage page = RasterPage.Render(engine, PdfSample.PageOf(list));
-            return page.CopyPixels();
+            return page.CopyPixels(0, page.Height);
         }
 
         byte[] dense = Paint(isGeneral: false);

@@ -160,7 +160,7 @@ public class DeviceTests
             }
 
             using RasterPage page = Render(list);
-            return page.CopyPixels();
+            return page.CopyPixels(0, page.Height);
         }
 
         byte[] filled = Paint(isClipped: false);

@@ -1,3 +1,4 @@
+using System;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
@@ -94,6 +95,23 @@ public class ExportTests
         Assert.DoesNotContain("NOTEXT", text);
         Assert.Equal("DRAFT", string.Concat(text.Where(char.IsLetter)));
         Assert.Contains("image", Tools.Run("pdfimages", "-list", file));
+    }
+
+    [Fact]
+    public void Large_pages_as_bitmaps_are_strips_without_gaps()
+    {
+        var raster = new CadRasterizationOptions { PageWidth = 900, PageHeight = 900, ContentAsBitmap = true };
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 1), TestPage.Square(0, 0, 50, 5));
+        string file = TestPage.SaveTo(drawing, new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
+        string[] images = Tools.Run("pdfimages", "-list", file).Split('\n', StringSplitOptions.RemoveEmptyEntries);
+        Assert.True(images.Length > 5, string.Join('\n', images));
+        string png = Tools.TempFile(".png");
+        Tools.Run("pdftoppm", "-r", "24", "-png", "-singlefile", file, png[..^4]);
+        Assert.Contains("300x300", Tools.Run("identify", png));
+        // Red and blue have no green; a gap is white.
+        Assert.Equal("0", Tools.Run(
+            "convert", png, "-crop", "298x298+1+1", "-channel", "G", "-separate", "-format", "%[max]", "info:"));
+        Assert.StartsWith("srgb(0,0,25", Tools.Run("convert", png, "-format", "%[pixel:p{75,225}]", "info:"));
     }
 
     [Fact]
