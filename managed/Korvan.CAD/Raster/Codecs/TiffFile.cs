@@ -32,8 +32,14 @@ internal sealed unsafe class TiffFile : IDisposable
         _handle = Tiff.Open(name, mode, _bridge.Closure, &Read, &Write, &Seek, &Close, &Size, &Map, &Unmap, options);
         if (_handle.IsInvalid)
         {
-            Dispose();
-            throw new TiffImageException($"'{name}' is no TIFF that can be read: {Error}.");
+            try
+            {
+                Verify(false, mode[0] == 'w' ? "The TIFF cannot be begun" : $"'{name}' is no TIFF that can be read");
+            }
+            finally
+            {
+                Dispose();
+            }
         }
     }
 

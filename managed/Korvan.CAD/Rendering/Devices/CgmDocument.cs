@@ -67,7 +67,7 @@ internal sealed class CgmDocument : MetafilePlayer
 
     protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)
     {
-        int size = Math.Max(1, (int)Math.Round(width));
+        int size = Math.Max(1, Round(width));
         if (_line != (color, size))
         {
             _put(new LineColour(Direct(color)));

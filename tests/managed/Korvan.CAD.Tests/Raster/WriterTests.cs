@@ -305,4 +305,13 @@ public class WriterTests
             }
         }
     }
+
+    [Fact]
+    public void A_stream_that_fails_at_once_tells_why()
+    {
+        using var closed = new MemoryStream([], writable: false);
+        var failure = Assert.Throws<NotSupportedException>(
+            () => new CAD.Raster.Codecs.TiffFile(closed, "output", "wl"));
+        Assert.DoesNotContain("TIFF", failure.Message);
+    }
 }

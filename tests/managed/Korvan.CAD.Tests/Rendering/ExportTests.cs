@@ -114,6 +114,23 @@ public class ExportTests
         Assert.StartsWith("srgb(0,0,25", Tools.Run("convert", png, "-format", "%[pixel:p{75,225}]", "info:"));
     }
 
+    [Theory]
+    [InlineData(0.5f, 0.5f)]
+    [InlineData(100_000f, 0.01f)]
+    public void Pages_may_be_tiny(float width, float height)
+    {
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 1), new CadLine { LineWeight = 211 }, Text("x"));
+        foreach (ImageOptionsBase options in new ImageOptionsBase[]
+        {
+            new CgmOptions(), new EmfOptions(), new WmfOptions(), new PdfOptions(), new SvgOptions(),
+            new Html5Options(),
+        })
+        {
+            options.VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = width, PageHeight = height };
+            Assert.NotEqual(0, new FileInfo(TestPage.SaveTo(drawing, options, ".out")).Length);
+        }
+    }
+
     [Fact]
     public void Fit_modes_scale_as_their_names_say()
     {
