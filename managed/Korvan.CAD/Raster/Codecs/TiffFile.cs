@@ -32,13 +32,11 @@ internal sealed unsafe class TiffFile : IDisposable
         _handle = Tiff.Open(name, mode, _bridge.Closure, &Read, &Write, &Seek, &Close, &Size, &Map, &Unmap, options);
         if (_handle.IsInvalid)
         {
-            try
+            using (this)
             {
-                Verify(false, mode[0] == 'w' ? "The TIFF cannot be begun" : $"'{name}' is no TIFF that can be read");
-            }
-            finally
-            {
-                Dispose();
+                // What a damaged file makes of a read is no failure of the stream.
+                Verify(mode[0] != 'w', "The TIFF cannot be begun");
+                throw new TiffImageException($"'{name}' is no TIFF that can be read: {Error}.");
             }
         }
     }
