@@ -104,6 +104,9 @@ class Bombs(unittest.TestCase):
                 hostile.insert("A", more="70\n700\n71\n700\n44\n10\n45\n10\n"),
                 hostile.block("A", hostile.mtext("some {\\fArial|b1;words}\\P that wrap " * 10, 30))
             ), ("PngOptions",), NOT_SAVED),
+            ("words.dxf", hostile.drawing(
+                hostile.insert("A") * 10_000, hostile.block("A", hostile.text("Room 12 " * 4000))
+            ), ("PngOptions", "EmfOptions"), {"done", "ImageSaveException"}),
             ("marks.dxf", hostile.drawing(hostile.mtext("a\\U+0301" * 60_000)), ("EmfOptions", "WmfOptions"), {"done"}),
             ("gaps.dxf", hostile.drawing(hostile.hatch(
                 [hostile.square(0, 0, 1e4)], *(hostile.hatch_line(angle, 20, -0.02) for angle in range(40))

@@ -24,6 +24,11 @@ internal sealed partial class DrawingList
     /// <summary>Coordinates that count as an item where the number of stored items is limited.</summary>
     private const int CoordsPerItem = 16;
 
+    /// <summary>Parts of paths, and characters, that take about as long as a step of work to be placed and
+    /// written.</summary>
+    private const int VerbsPerStep = 64;
+    private const int CharactersPerStep = 16;
+
     private readonly List<Gradient> _gradients = [];
     private readonly List<PlacedImage> _images = [];
     private readonly List<string> _layers = [];
@@ -223,6 +228,7 @@ internal sealed partial class DrawingList
             return;
         }
 
+        Budget.Step(run.Text.Length / CharactersPerStep); // again for each reference of a block
         ref DisplayItem item = ref NewItem(DisplayKind.Text, color, layer);
         item.Extra = _texts.Add(new ReadOnlySpan<TextRun>(in run));
     }
@@ -350,6 +356,7 @@ internal sealed partial class DrawingList
                 $"The drawing needs more than {MaxCoords} coordinates on one page; it is too large to be rendered.");
         }
 
+        Budget.Step(newVerbs.Length / VerbsPerStep);
         item.FirstVerb = _verbs.Add(newVerbs);
         item.VerbCount = newVerbs.Length;
         item.FirstCoord = _coords.Add(newCoords);
